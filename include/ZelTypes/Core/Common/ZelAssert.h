@@ -1,0 +1,37 @@
+#ifndef ZELTYPES_CORE_COMMON_ZELASSERT_H
+#define ZELTYPES_CORE_COMMON_ZELASSERT_H
+
+#include <ZelTypes/Core/Common/ZelExport.h>
+
+#include <boost/function.hpp>
+
+namespace ZELN
+{
+
+// Called on every failed check with the expression text, source path and line.
+// The result is part of the signature only: no caller looks at it.
+typedef boost::function<bool(const char* szExpression, const char* szFile, int iLine)> ZelAssertHandler;
+
+// Shared trace entry point of the modules that load the library; never called from inside it.
+typedef boost::function<void(const char*, int, int, const char*, int)> ZelTraceHandler;
+
+ZELTYPES_API ZelAssertHandler& GetAssertHandler();
+ZELTYPES_API ZelTraceHandler& GetTraceHandler();
+ZELTYPES_API ZelAssertHandler SetAssertHandler(const ZelAssertHandler& rHandler);
+ZELTYPES_API ZelTraceHandler SetTraceHandler(const ZelTraceHandler& rHandler);
+
+} // namespace ZELN
+
+// The expression text is handed over exactly as written; variadic so that
+// expressions with commas (template arguments, calls) pass through whole.
+// An empty hook raises boost::bad_function_call from the failing function.
+#define ZEL_ASSERT(...)                                                                                      \
+    do                                                                                                       \
+    {                                                                                                        \
+        if (!(__VA_ARGS__))                                                                                  \
+        {                                                                                                    \
+            (void)::ZELN::GetAssertHandler()(#__VA_ARGS__, __FILE__, __LINE__);                              \
+        }                                                                                                    \
+    } while (false)
+
+#endif

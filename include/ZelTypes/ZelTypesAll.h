@@ -1,0 +1,11 @@
+#ifndef ZELTYPES_ZELTYPESALL_H
+#define ZELTYPES_ZELTYPESALL_H
+
+// Every public header of the library.
+#include <ZelTypes/Core/Common/ZelAssert.h>
+#include <ZelTypes/Core/Common/ZelExport.h>
+#include <ZelTypes/Core/Common/ZelLock.h>
+#include <ZelTypes/Core/Common/ZelRecordIO.h>
+#include <ZelTypes/Core/Common/mjdTime.h>
+
+#endif
