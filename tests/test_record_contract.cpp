@@ -64,7 +64,7 @@ std::istream& operator>>(std::istream& is, STestLeaf& r)
     return is >> r.dValue;
 }
 
-enum ETestKind
+enum ETestKind : int32_t
 {
     TESTKIND_INVALID = -1,
     TESTKIND_ALPHA = 0,
@@ -520,4 +520,35 @@ TEST(RecordContract, ExtHelpers)
     double d = 0.0;
     ZelIo::GetAt(aucImage, 1, d);
     EXPECT_EQ(d, 2.5);
+}
+
+namespace
+{
+enum EFixed : int32_t
+{
+    FIXED_A = 0
+};
+enum ELoose
+{
+    LOOSE_A = 0
+};
+} // namespace
+
+TEST(RecordContract, RawBoolAndEnumerationsTakeAnyImageValue)
+{
+    static_assert(ZelIo::IsFixedEnum<EFixed>(), "fixed");
+    static_assert(!ZelIo::IsFixedEnum<ELoose>(), "loose");
+    static_assert(ZelIo::IsFixedEnum<double>(), "not an enumeration");
+    const unsigned char aucImage[5] = {2, 45, 0, 0, 0};
+    uint64_t ulOffset = 0;
+    ZelIo::CBinReader stIn(aucImage, sizeof(aucImage), &ulOffset);
+    bool bFlag = false;
+    EFixed eValue = FIXED_A;
+    EXPECT_TRUE(stIn.Raw(bFlag));
+    EXPECT_TRUE(stIn.Raw(eValue));
+    EXPECT_TRUE(bFlag);
+    EXPECT_EQ(static_cast<int32_t>(eValue), 45);
+    bool bAt = false;
+    ZelIo::GetAt(aucImage, 0, bAt);
+    EXPECT_TRUE(bAt);
 }

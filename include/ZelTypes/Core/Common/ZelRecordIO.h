@@ -20,6 +20,28 @@ namespace ZELN
 namespace ZelIo
 {
 
+// An enumeration declared with a fixed underlying type may hold any value of
+// that type; one without may not, so a raw image or a narrowed text value
+// could give it an invalid value. Readers accept only the former.
+template <class T, class = void> struct SHasFixedType : std::false_type
+{
+};
+template <class T>
+struct SHasFixedType<T, std::void_t<decltype(T{std::underlying_type_t<T>{}})>> : std::true_type
+{
+};
+template <class T> constexpr bool IsFixedEnum()
+{
+    if constexpr (std::is_enum<T>::value)
+    {
+        return SHasFixedType<T>::value;
+    }
+    else
+    {
+        return true;
+    }
+}
+
 // ---------------------------------------------------------------------------
 // Binary form, Core family: pBuffer, uiBufferLength and a running count.
 // ---------------------------------------------------------------------------
@@ -189,15 +211,33 @@ public:
     bool Failed() const { return m_bOverrun; }
 
     // Raw copy of a field; false (and nothing read) when the buffer ends.
+    // A bool comes in through a byte: any value but 0 is true, since a raw
+    // byte other than 0 or 1 is no valid bool. Enumerations read this way
+    // have a fixed underlying type, so that every image value is valid.
     template <class T> bool Raw(T& rValue)
     {
         static_assert(std::is_trivially_copyable<T>::value, "raw fields must be trivially copyable");
-        return Bytes(&rValue, sizeof(T));
+        static_assert(IsFixedEnum<T>(), "enumerations need a fixed underlying type");
+        if constexpr (std::is_same<T, bool>::value)
+        {
+            uint8_t ucByte = 0;
+            if (!Bytes(&ucByte, 1))
+            {
+                return false;
+            }
+            rValue = ucByte != 0;
+            return true;
+        }
+        else
+        {
+            return Bytes(&rValue, sizeof(T));
+        }
     }
 
     // A field stored narrower than in memory.
     template <class TStored, class T> bool RawAs(T& rValue)
     {
+        static_assert(IsFixedEnum<T>(), "enumerations need a fixed underlying type");
         TStored tStored{};
         if (!Raw(tStored))
         {
@@ -348,7 +388,15 @@ template <class T> inline void PutAt(unsigned char* pBuffer, uint64_t ulOffset, 
 template <class T> inline void GetAt(const unsigned char* pBuffer, uint64_t ulOffset, T& rValue)
 {
     static_assert(std::is_trivially_copyable<T>::value, "raw fields must be trivially copyable");
-    std::memcpy(&rValue, pBuffer + ulOffset, sizeof(T));
+    static_assert(IsFixedEnum<T>(), "enumerations need a fixed underlying type");
+    if constexpr (std::is_same<T, bool>::value)
+    {
+        rValue = pBuffer[ulOffset] != 0; // a byte other than 0 or 1 is no valid bool
+    }
+    else
+    {
+        std::memcpy(&rValue, pBuffer + ulOffset, sizeof(T));
+    }
 }
 
 // Null buffer or short image: "false" and no access.
@@ -392,6 +440,7 @@ inline std::istream& SkipSeparator(std::istream& is)
 // are then narrowed; on a failed extraction they get the temporary's zero.
 template <class TWide, class T> inline std::istream& ReadAs(std::istream& is, T& rValue)
 {
+    static_assert(IsFixedEnum<T>(), "enumerations need a fixed underlying type");
     TWide tWide{};
     is >> tWide;
     rValue = static_cast<T>(tWide);
@@ -406,6 +455,7 @@ template <class T> inline std::ostream& WriteHex(std::ostream& os, const T& rVal
 
 template <class TWide, class T> inline std::istream& ReadHex(std::istream& is, T& rValue)
 {
+    static_assert(IsFixedEnum<T>(), "enumerations need a fixed underlying type");
     TWide tWide{};
     is >> std::hex >> tWide >> std::dec;
     rValue = static_cast<T>(tWide);

@@ -34,7 +34,8 @@ constexpr double c_dJD_MJD_OFFSET = 2400000.5;
 constexpr int c_iMIN_VALID_YEAR = 1980;
 constexpr int c_iMAX_VALID_YEAR = 2100;
 
-enum EMjdTimeAccuracy
+// Fixed underlying types: an image or a text may carry any 32-bit value.
+enum EMjdTimeAccuracy : int32_t
 {
     MJDACC_EXACT = 0,
     MJDACC_NANOSECOND = 1,
@@ -46,7 +47,7 @@ enum EMjdTimeAccuracy
 };
 
 // Index into the table of rounding steps (milliseconds).
-enum EMjdTimeRoundStep
+enum EMjdTimeRoundStep : int32_t
 {
     MJDSTEP_1MS = 0,
     MJDSTEP_10MS = 1,
@@ -58,7 +59,7 @@ enum EMjdTimeRoundStep
     MJDSTEP_1NS = 7
 };
 
-enum EMjdTimeTextForm
+enum EMjdTimeTextForm : int32_t
 {
     MJDTXT_MONTHYEAR = 0,
     MJDTXT_DATETIME = 1,
