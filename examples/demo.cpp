@@ -29,8 +29,8 @@ void ShowTime(const SMjdTime& stTime)
     int iYear = 0, iMonth = 0, iDay = 0, iHour = 0, iMinute = 0;
     double dSeconds = 0.0;
     stTime.GetDate(iYear, iMonth, iDay, iHour, iMinute, dSeconds);
-    std::cout << "calendar             " << iYear << "-" << iMonth << "-" << iDay << " " << iHour << ":" << iMinute
-              << ":" << dSeconds << "\n";
+    std::cout << "calendar             " << iYear << "-" << iMonth << "-" << iDay << " " << iHour << ":"
+              << iMinute << ":" << dSeconds << "\n";
     unsigned short unWeek = 0;
     double dGpsSeconds = 0.0;
     unsigned int uiMs = 0;
@@ -58,7 +58,8 @@ void ShowTime(const SMjdTime& stTime)
         std::ostringstream oss;
         oss << std::setprecision(12);
         stTime.WriteText(oss, static_cast<EMjdTimeTextForm>(iForm));
-        std::cout << "stream " << std::left << std::setw(17) << aszForms[iForm] << "\"" << oss.str() << "\"\n";
+        std::cout << "stream " << std::left << std::setw(17) << aszForms[iForm] << "\"" << oss.str()
+                  << "\"\n";
     }
 }
 
@@ -86,7 +87,7 @@ int main(int argc, char** argv)
     SMjdTime stBack;
     const bool bSaved = stTime.saveData(aucImage, sizeof(aucImage), &ulOffset);
     const bool bLoaded = stBack.loadData(aucImage, sizeof(aucImage), &ulOffset);
-    std::cout << "binary round trip    " << (bSaved && bLoaded && stBack == stTime ? "equal" : "DIFFERENT") << " ("
-              << ulOffset << " bytes)\n";
+    std::cout << "binary round trip    " << (bSaved && bLoaded && stBack == stTime ? "equal" : "DIFFERENT")
+              << " (" << ulOffset << " bytes)\n";
     return bSaved && bLoaded && stBack == stTime ? 0 : 1;
 }

@@ -27,7 +27,10 @@ inline std::vector<SSeedEntry>& SeedRegistry()
 
 struct SSeedRegistrar
 {
-    SSeedRegistrar(const char* szTarget, SeedMaker fnMake) { SeedRegistry().push_back({szTarget, std::move(fnMake)}); }
+    SSeedRegistrar(const char* szTarget, SeedMaker fnMake)
+    {
+        SeedRegistry().push_back({szTarget, std::move(fnMake)});
+    }
 };
 
 // The image a record's saveData writes, as a string of bytes.

@@ -24,10 +24,12 @@ class CRecordingHook
 public:
     explicit CRecordingHook(bool bResult = true)
     {
-        m_Previous = ZELN::SetAssertHandler([this, bResult](const char* szExpr, const char* szFile, int iLine) {
-            m_vecReports.push_back({szExpr, szFile, iLine});
-            return bResult;
-        });
+        m_Previous = ZELN::SetAssertHandler(
+            [this, bResult](const char* szExpr, const char* szFile, int iLine)
+            {
+                m_vecReports.push_back({szExpr, szFile, iLine});
+                return bResult;
+            });
     }
     ~CRecordingHook() { ZELN::SetAssertHandler(m_Previous); }
     CRecordingHook(const CRecordingHook&) = delete;

@@ -38,8 +38,10 @@ SMjdTime At(int32_t lDay, double dMs)
 
 const char* const c_szValidDate6 = "__IsValidDate(iYear, iMonth, iDay, iHour, iMinute, dSeconds)";
 const char* const c_szValidDate3 = "__IsValidDate(iYear, iMonth, dDay)";
-const char* const c_szGpsCtor = "uiGpsWeek <= c_ulMAX_GPS_WEEK && dGpsSeconds >= 0.0 && dGpsSeconds < c_ulSEC_PER_WEEK";
-const char* const c_szGpsSet = "unGpsWeek <= c_ulMAX_GPS_WEEK && dGpsSeconds >= 0.0 && dGpsSeconds <= c_ulSEC_PER_WEEK";
+const char* const c_szGpsCtor =
+    "uiGpsWeek <= c_ulMAX_GPS_WEEK && dGpsSeconds >= 0.0 && dGpsSeconds < c_ulSEC_PER_WEEK";
+const char* const c_szGpsSet =
+    "unGpsWeek <= c_ulMAX_GPS_WEEK && dGpsSeconds >= 0.0 && dGpsSeconds <= c_ulSEC_PER_WEEK";
 const char* const c_szGpsSetMs =
     "unGpsWeek <= c_ulMAX_GPS_WEEK && dGpsMillseconds >= 0.0 && dGpsMillseconds <= c_ulMSEC_PER_WEEK";
 
@@ -173,8 +175,8 @@ TEST(GnssTime, IsValidDateRules)
     EXPECT_FALSE(IsValidDate(2020, 4, 31, 0, 0, 0.0));
     EXPECT_FALSE(IsValidDate(2020, 1, 1, 25, 0, 0.0));
     EXPECT_TRUE(IsValidDate(2020, 1, 1, 24, 0, 0.0));
-    EXPECT_TRUE(IsValidDate(2020, 1, 1, 23, 60, 0.0));  // minute 60 adds one hour: 24
-    EXPECT_FALSE(IsValidDate(2020, 1, 1, 24, 60, 0.0)); // 25
+    EXPECT_TRUE(IsValidDate(2020, 1, 1, 23, 60, 0.0));   // minute 60 adds one hour: 24
+    EXPECT_FALSE(IsValidDate(2020, 1, 1, 24, 60, 0.0));  // 25
     EXPECT_FALSE(IsValidDate(2020, 1, 1, 24, 59, 60.0)); // seconds carry into minute 60, hour 25
     // Day 0, negative days, hours, minutes and seconds are not tested.
     EXPECT_TRUE(IsValidDate(2020, 1, 0, 0, 0, 0.0));
@@ -379,7 +381,8 @@ TEST(GnssTime, GpsDayNumbers)
     EXPECT_EQ(Hook.Count(), 0u);
     st.SetGpsDay(1500, 0);
     ASSERT_EQ(Hook.Count(), 1u);
-    EXPECT_EQ(Hook.Texts()[0], "unGpsWeek <= c_ulMAX_GPS_WEEK && uiGpsDn >= 1 && uiGpsDn <= c_ulDAYS_PER_WEEK");
+    EXPECT_EQ(Hook.Texts()[0],
+              "unGpsWeek <= c_ulMAX_GPS_WEEK && uiGpsDn >= 1 && uiGpsDn <= c_ulDAYS_PER_WEEK");
     EXPECT_EQ(st.m_lMjdDay, 1500 * 7 + 44244);
     st.SetGpsDay(1500, 8);
     EXPECT_EQ(Hook.Count(), 2u);
@@ -499,8 +502,9 @@ TEST(GnssTime, JulianAndMjdForms)
     EXPECT_EQ(st.m_lMjdDay, 86000);
     st.SetMjdAny(-0.5);
     ASSERT_EQ(Hook.Count(), 2u);
-    EXPECT_EQ(Hook.Texts()[1],
-              "(static_cast<unsigned int>(lMjdDay) < c_ulMAX_MJD_DAY) && dFractDay < 1.0 && dFractDay >= 0.0");
+    EXPECT_EQ(
+        Hook.Texts()[1],
+        "(static_cast<unsigned int>(lMjdDay) < c_ulMAX_MJD_DAY) && dFractDay < 1.0 && dFractDay >= 0.0");
 }
 
 TEST(GnssTime, CalendarGetters)
@@ -557,12 +561,14 @@ TEST(GnssTime, YearDaySetters)
     st.SetYearDaySeconds(2100, 1, 0.0); // beyond the last valid day: reported, stored
     EXPECT_EQ(st.m_lMjdDay, 88069);
     ASSERT_EQ(Hook.Count(), 1u);
-    EXPECT_EQ(Hook.Texts()[0],
-              "(static_cast<unsigned int>(lMjdDay) < c_ulMAX_MJD_DAY) && dFractDay < 1.0 && dFractDay >= 0.0");
+    EXPECT_EQ(
+        Hook.Texts()[0],
+        "(static_cast<unsigned int>(lMjdDay) < c_ulMAX_MJD_DAY) && dFractDay < 1.0 && dFractDay >= 0.0");
     st.SetYearDaySeconds(2000, 1, 86400.0);
     ASSERT_EQ(Hook.Count(), 2u);
-    EXPECT_EQ(Hook.Texts()[1],
-              "(static_cast<unsigned int>(lMjdDay) < c_ulMAX_MJD_DAY) && dFractDay < 1.0 && dFractDay >= 0.0");
+    EXPECT_EQ(
+        Hook.Texts()[1],
+        "(static_cast<unsigned int>(lMjdDay) < c_ulMAX_MJD_DAY) && dFractDay < 1.0 && dFractDay >= 0.0");
 }
 
 // ---------------------------------------------------------------- C-string forms

@@ -81,7 +81,7 @@ TEST(Hooks, MacroPassesExpressionTextFileAndLine)
     ZelTest::CRecordingHook Hook;
     const int iValue = 3;
     const int iExpectedLine = __LINE__ + 1;
-    ZEL_ASSERT(iValue  <   2);
+    ZEL_ASSERT(iValue < 2);
     ASSERT_EQ(Hook.Count(), 1u);
     // Runs of blanks collapse to one, as the preprocessor spells the text.
     EXPECT_EQ(Hook.Reports()[0].strExpression, "iValue < 2");
@@ -97,7 +97,8 @@ TEST(Hooks, MacroPassesExpressionTextFileAndLine)
     EXPECT_EQ(Hook.Reports()[1].strExpression, "std::is_same<int, long>::value");
     EXPECT_EQ(Hook.Reports()[2].strExpression, "std::map<int, int>().size() == 1");
     EXPECT_EQ(Hook.Reports()[3].strExpression, "false");
-    EXPECT_EQ(Hook.Reports()[4].strExpression, "!\"Ephemeris parameter change detected for GLO M-Type satellite\"");
+    EXPECT_EQ(Hook.Reports()[4].strExpression,
+              "!\"Ephemeris parameter change detected for GLO M-Type satellite\"");
 }
 
 TEST(Hooks, PassingCheckEvaluatesOnlyTheExpression)
@@ -179,7 +180,8 @@ TEST(Hooks, GetterReturnsTheGlobalObject)
 
     ZelAssertHandler Saved = rFirst;
     int iCalls = 0;
-    rFirst = [&iCalls](const char*, const char*, int) {
+    rFirst = [&iCalls](const char*, const char*, int)
+    {
         ++iCalls;
         return true;
     };
@@ -231,9 +233,8 @@ TEST(Hooks, TraceHookSetterAndNeverCalled)
 
 TEST(Hooks, HandlerExceptionPassesToCaller)
 {
-    ZelAssertHandler Previous = SetAssertHandler([](const char*, const char*, int) -> bool {
-        throw std::logic_error("host");
-    });
+    ZelAssertHandler Previous =
+        SetAssertHandler([](const char*, const char*, int) -> bool { throw std::logic_error("host"); });
     SMjdTime stTime;
     EXPECT_THROW(stTime.AddDays(-10), std::logic_error);
     // AddDays adds before it checks.

@@ -31,11 +31,13 @@ TEST(Locks, MutexIsRecursiveAndNeedsAllUnlocks)
     Mutex.Lock();
     Mutex.Lock();
     std::atomic<bool> bEntered(false);
-    std::thread Other([&] {
-        Mutex.Lock();
-        bEntered = true;
-        Mutex.Unlock();
-    });
+    std::thread Other(
+        [&]
+        {
+            Mutex.Lock();
+            bEntered = true;
+            Mutex.Unlock();
+        });
     Settle();
     EXPECT_FALSE(bEntered);
     Mutex.Unlock();
@@ -52,11 +54,13 @@ TEST(Locks, ReadersExcludeEachOther)
     CZelReaderWriterLock Lock;
     Lock.ReadLock();
     std::atomic<bool> bEntered(false);
-    std::thread Reader([&] {
-        Lock.ReadLock();
-        bEntered = true;
-        Lock.ReadUnlock();
-    });
+    std::thread Reader(
+        [&]
+        {
+            Lock.ReadLock();
+            bEntered = true;
+            Lock.ReadUnlock();
+        });
     Settle();
     EXPECT_FALSE(bEntered);
     Lock.ReadUnlock();
@@ -71,11 +75,13 @@ TEST(Locks, ReadAndWriteAreTheSameRecursiveLock)
     rInterface.WriteLock();
     rInterface.ReadLock(); // recursive for the owner
     std::atomic<bool> bEntered(false);
-    std::thread Writer([&] {
-        rInterface.WriteLock();
-        bEntered = true;
-        rInterface.WriteUnlock();
-    });
+    std::thread Writer(
+        [&]
+        {
+            rInterface.WriteLock();
+            bEntered = true;
+            rInterface.WriteUnlock();
+        });
     Settle();
     EXPECT_FALSE(bEntered);
     rInterface.ReadUnlock();
@@ -94,10 +100,12 @@ TEST(Locks, GuardLocksAndUnlocksThroughTheInterface)
     std::thread Other;
     {
         CZelGuard Guard(rLock);
-        Other = std::thread([&] {
-            CZelGuard Inner(rLock);
-            bEntered = true;
-        });
+        Other = std::thread(
+            [&]
+            {
+                CZelGuard Inner(rLock);
+                bEntered = true;
+            });
         Settle();
         EXPECT_FALSE(bEntered);
     }
@@ -115,11 +123,13 @@ TEST(Locks, GuardUnlocksWhenAnExceptionPasses)
         },
         std::runtime_error);
     std::atomic<bool> bEntered(false);
-    std::thread Other([&] {
-        Mutex.Lock();
-        bEntered = true;
-        Mutex.Unlock();
-    });
+    std::thread Other(
+        [&]
+        {
+            Mutex.Lock();
+            bEntered = true;
+            Mutex.Unlock();
+        });
     Other.join();
     EXPECT_TRUE(bEntered);
 }
@@ -128,7 +138,8 @@ TEST(Locks, CountingUnderContention)
 {
     CZelMutex Mutex;
     long lCounter = 0;
-    auto Work = [&] {
+    auto Work = [&]
+    {
         for (int i = 0; i < 20000; ++i)
         {
             CZelGuard Guard(Mutex);

@@ -137,8 +137,9 @@ TEST(MjdTime, SetMjdDayMillisecondsAndDayFract)
     st.SetMjdDayMilliseconds(-1, 90000000.0);
     ASSERT_EQ(Hook.Count(), 2u);
     EXPECT_EQ(Hook.Texts()[0], "lMjdDay>=0");
-    EXPECT_EQ(Hook.Texts()[1],
-              "(static_cast<unsigned int>(lMjdDay) < c_ulMAX_MJD_DAY) && (dMjdMilliseconds < c_ulMSEC_PER_DAY)");
+    EXPECT_EQ(
+        Hook.Texts()[1],
+        "(static_cast<unsigned int>(lMjdDay) < c_ulMAX_MJD_DAY) && (dMjdMilliseconds < c_ulMSEC_PER_DAY)");
     EXPECT_EQ(st.m_lMjdDay, -1);
     EXPECT_EQ(st.m_dMjdFractMilliseconds, 90000000.0);
 
@@ -149,8 +150,9 @@ TEST(MjdTime, SetMjdDayMillisecondsAndDayFract)
     EXPECT_EQ(st.m_dMjdFractMilliseconds, 43200000.0);
     st.SetMjdDayFract(200, 1.0);
     ASSERT_EQ(Hook.Count(), 1u);
-    EXPECT_EQ(Hook.Texts()[0],
-              "(static_cast<unsigned int>(lMjdDay) < c_ulMAX_MJD_DAY) && dFractDay < 1.0 && dFractDay >= 0.0");
+    EXPECT_EQ(
+        Hook.Texts()[0],
+        "(static_cast<unsigned int>(lMjdDay) < c_ulMAX_MJD_DAY) && dFractDay < 1.0 && dFractDay >= 0.0");
     EXPECT_EQ(st.m_dMjdFractMilliseconds, 86400000.0);
     st.SetMjdDayFract(200, -0.25);
     EXPECT_EQ(Hook.Count(), 2u);
@@ -316,9 +318,9 @@ TEST(MjdTime, AccuracyTableRowByRow)
         double dLimit;
         bool bLimitCounts;
     };
-    const SRow astRows[] = {{MJDACC_EXACT, 0.0, false},       {MJDACC_NANOSECOND, 1e-6, false},
+    const SRow astRows[] = {{MJDACC_EXACT, 0.0, false},         {MJDACC_NANOSECOND, 1e-6, false},
                             {MJDACC_MICROSECOND, 0.001, false}, {MJDACC_MILLISECOND, 1.0, true},
-                            {MJDACC_SECOND, 1000.0, false},    {MJDACC_MINUTE, 60000.0, false},
+                            {MJDACC_SECOND, 1000.0, false},     {MJDACC_MINUTE, 60000.0, false},
                             {MJDACC_HOUR, 3600000.0, false}};
     for (const auto& r : astRows)
     {

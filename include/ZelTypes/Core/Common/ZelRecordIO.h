@@ -52,7 +52,8 @@ class CBinWriter
 {
 public:
     CBinWriter(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset)
-        : m_pBuffer(pBuffer), m_uiLength(uiBufferLength), m_pulOffset(pulOffset != nullptr ? pulOffset : &m_ulLocal)
+        : m_pBuffer(pBuffer), m_uiLength(uiBufferLength),
+          m_pulOffset(pulOffset != nullptr ? pulOffset : &m_ulLocal)
     {
     }
 
@@ -185,7 +186,8 @@ class CBinReader
 {
 public:
     CBinReader(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset)
-        : m_pBuffer(pBuffer), m_uiLength(uiBufferLength), m_pulOffset(pulOffset != nullptr ? pulOffset : &m_ulLocal)
+        : m_pBuffer(pBuffer), m_uiLength(uiBufferLength),
+          m_pulOffset(pulOffset != nullptr ? pulOffset : &m_ulLocal)
     {
     }
 

@@ -20,15 +20,15 @@
 namespace ZELN
 {
 
-constexpr uint32_t c_ulMAX_MJD_DAY = 86000;         // first day number out of range
-constexpr uint32_t c_ulMSEC_PER_DAY = 86400000;     // first millisecond value out of range
+constexpr uint32_t c_ulMAX_MJD_DAY = 86000;     // first day number out of range
+constexpr uint32_t c_ulMSEC_PER_DAY = 86400000; // first millisecond value out of range
 constexpr uint32_t c_ulMSEC_PER_WEEK = 604800000;
 constexpr uint32_t c_ulSEC_PER_WEEK = 604800;
 constexpr uint32_t c_ulDAYS_PER_WEEK = 7;
-constexpr uint32_t c_ulMAX_GPS_WEEK = 5965;         // highest GPS week accepted
-constexpr int32_t c_lGPS_EPOCH_MJD = 44244;         // GPS week 0, day 0
+constexpr uint32_t c_ulMAX_GPS_WEEK = 5965; // highest GPS week accepted
+constexpr int32_t c_lGPS_EPOCH_MJD = 44244; // GPS week 0, day 0
 constexpr uint32_t c_ulGPS_WEEKS_AT_BDS_REFTIME = 1356;
-constexpr double c_dBDS_OFFSET_MSEC = 14000.0;      // GPS time minus BeiDou time
+constexpr double c_dBDS_OFFSET_MSEC = 14000.0; // GPS time minus BeiDou time
 constexpr uint32_t c_ulGPS_WEEK_ROLLOVER = 1024;
 constexpr double c_dJD_MJD_OFFSET = 2400000.5;
 constexpr int c_iMIN_VALID_YEAR = 1980;
@@ -99,8 +99,8 @@ inline int32_t WrapToInt32(int64_t l)
 
 inline int32_t AddWrap(int32_t lA, int64_t lB)
 {
-    return WrapToInt32(static_cast<int64_t>(static_cast<uint64_t>(static_cast<int64_t>(lA)) +
-                                            static_cast<uint64_t>(lB)));
+    return WrapToInt32(
+        static_cast<int64_t>(static_cast<uint64_t>(static_cast<int64_t>(lA)) + static_cast<uint64_t>(lB)));
 }
 
 // Modified Julian day of a calendar date; C divisions, truncation toward zero.
@@ -108,8 +108,8 @@ inline int32_t CalendarToMjd(int iYear, int iMonth, int iDay)
 {
     const int64_t y = iMonth < 3 ? static_cast<int64_t>(iYear) - 1 : static_cast<int64_t>(iYear);
     const int64_t m = iMonth > 2 ? static_cast<int64_t>(iMonth) + 1 : static_cast<int64_t>(iMonth) + 13;
-    return WrapToInt32(TruncToInt64(365.25 * static_cast<double>(y)) + TruncToInt64(30.6001 * static_cast<double>(m)) +
-                       iDay + y / 400 - y / 100 - 679004);
+    return WrapToInt32(TruncToInt64(365.25 * static_cast<double>(y)) +
+                       TruncToInt64(30.6001 * static_cast<double>(m)) + iDay + y / 400 - y / 100 - 679004);
 }
 
 // Modified Julian day of day N of a year; the division by 1000 cancels the
@@ -168,7 +168,8 @@ struct SMjdTime
         m_dMjdFractMilliseconds = (dDay - std::floor(dDay)) * 86400000.0;
     }
 
-    SMjdTime(unsigned int uiGpsWeek, double dGpsSeconds, const EMjdTimeAccuracy& eAccuracy = MJDACC_NANOSECOND)
+    SMjdTime(unsigned int uiGpsWeek, double dGpsSeconds,
+             const EMjdTimeAccuracy& eAccuracy = MJDACC_NANOSECOND)
         : m_lMjdDay(0), m_dMjdFractMilliseconds(0.0), m_eAccuracy(eAccuracy)
     {
         ZEL_ASSERT(uiGpsWeek <= c_ulMAX_GPS_WEEK && dGpsSeconds >= 0.0 && dGpsSeconds < c_ulSEC_PER_WEEK);
@@ -221,7 +222,10 @@ struct SMjdTime
     // clamps and never refuses.
     void SetMjdDay(int32_t lMjdDay)
     {
+        // The check text is spelt as it stands.
+        // clang-format off
         ZEL_ASSERT(lMjdDay>=0);
+        // clang-format on
         ZEL_ASSERT(static_cast<unsigned int>(lMjdDay) < c_ulMAX_MJD_DAY);
         m_lMjdDay = lMjdDay;
     }
@@ -236,16 +240,24 @@ struct SMjdTime
 
     void SetMjdDayMilliseconds(int32_t lMjdDay, double dMjdMilliseconds)
     {
+        // The check text is spelt as it stands.
+        // clang-format off
         ZEL_ASSERT(lMjdDay>=0);
-        ZEL_ASSERT((static_cast<unsigned int>(lMjdDay) < c_ulMAX_MJD_DAY) && (dMjdMilliseconds < c_ulMSEC_PER_DAY));
+        // clang-format on
+        ZEL_ASSERT((static_cast<unsigned int>(lMjdDay) < c_ulMAX_MJD_DAY) &&
+                   (dMjdMilliseconds < c_ulMSEC_PER_DAY));
         m_lMjdDay = lMjdDay;
         m_dMjdFractMilliseconds = dMjdMilliseconds;
     }
 
     void SetMjdDayFract(int32_t lMjdDay, double dFractDay)
     {
+        // The check text is spelt as it stands.
+        // clang-format off
         ZEL_ASSERT(lMjdDay>=0);
-        ZEL_ASSERT((static_cast<unsigned int>(lMjdDay) < c_ulMAX_MJD_DAY) && dFractDay < 1.0 && dFractDay >= 0.0);
+        // clang-format on
+        ZEL_ASSERT((static_cast<unsigned int>(lMjdDay) < c_ulMAX_MJD_DAY) && dFractDay < 1.0 &&
+                   dFractDay >= 0.0);
         m_lMjdDay = lMjdDay;
         m_dMjdFractMilliseconds = dFractDay * 86400000.0;
     }
@@ -255,8 +267,14 @@ struct SMjdTime
     void AddDays(int32_t lDays)
     {
         m_lMjdDay = MjdDetail::AddWrap(m_lMjdDay, lDays);
+        // The check text is spelt as it stands.
+        // clang-format off
         ZEL_ASSERT(m_lMjdDay>=0);
+        // clang-format on
+        // The check text is spelt as it stands.
+        // clang-format off
         ZEL_ASSERT(static_cast<unsigned int>(m_lMjdDay) <c_ulMAX_MJD_DAY);
+        // clang-format on
     }
 
     // No check here, unlike AddDays.
@@ -288,7 +306,8 @@ struct SMjdTime
         }
         ZEL_ASSERT(m_lMjdDay >= 0);
         ZEL_ASSERT(static_cast<unsigned int>(m_lMjdDay) < c_ulMAX_MJD_DAY);
-        ZEL_ASSERT(m_dMjdFractMilliseconds < static_cast<double>(c_ulMSEC_PER_DAY) && m_dMjdFractMilliseconds >= 0.0);
+        ZEL_ASSERT(m_dMjdFractMilliseconds < static_cast<double>(c_ulMSEC_PER_DAY) &&
+                   m_dMjdFractMilliseconds >= 0.0);
     }
 
     void AddSeconds(double d) { AddMilliseconds(d * 1000.0); }
@@ -449,7 +468,8 @@ struct SMjdTime
 
     void SetGpsTimeMs(unsigned short unGpsWeek, double dGpsMillseconds)
     {
-        ZEL_ASSERT(unGpsWeek <= c_ulMAX_GPS_WEEK && dGpsMillseconds >= 0.0 && dGpsMillseconds <= c_ulMSEC_PER_WEEK);
+        ZEL_ASSERT(unGpsWeek <= c_ulMAX_GPS_WEEK && dGpsMillseconds >= 0.0 &&
+                   dGpsMillseconds <= c_ulMSEC_PER_WEEK);
         m_lMjdDay = MjdDetail::WrapToInt32(static_cast<int64_t>(unGpsWeek) * 7 + c_lGPS_EPOCH_MJD +
                                            MjdDetail::TruncToInt64(dGpsMillseconds / 86400000.0));
         m_dMjdFractMilliseconds = std::fmod(dGpsMillseconds, 86400000.0);
@@ -465,7 +485,8 @@ struct SMjdTime
     // The added week is a 16-bit value: a sum past 65535 wraps.
     void SetGpsTimeRollover(unsigned short unGpsWeek, double dGpsSeconds, bool bRollover)
     {
-        SetGpsTimeMs(bRollover ? AddWeeks16(unGpsWeek, c_ulGPS_WEEK_ROLLOVER) : unGpsWeek, dGpsSeconds * 1000.0);
+        SetGpsTimeMs(bRollover ? AddWeeks16(unGpsWeek, c_ulGPS_WEEK_ROLLOVER) : unGpsWeek,
+                     dGpsSeconds * 1000.0);
         AddMilliseconds(0.0);
     }
 
@@ -523,8 +544,14 @@ struct SMjdTime
 
     // Weeks and days since the GPS epoch from the unsigned 32-bit day count:
     // a time before the epoch gives a very large week.
-    uint32_t GpsWeeks() const { return (static_cast<uint32_t>(m_lMjdDay) - static_cast<uint32_t>(c_lGPS_EPOCH_MJD)) / 7u; }
-    uint32_t GpsDays() const { return (static_cast<uint32_t>(m_lMjdDay) - static_cast<uint32_t>(c_lGPS_EPOCH_MJD)) % 7u; }
+    uint32_t GpsWeeks() const
+    {
+        return (static_cast<uint32_t>(m_lMjdDay) - static_cast<uint32_t>(c_lGPS_EPOCH_MJD)) / 7u;
+    }
+    uint32_t GpsDays() const
+    {
+        return (static_cast<uint32_t>(m_lMjdDay) - static_cast<uint32_t>(c_lGPS_EPOCH_MJD)) % 7u;
+    }
 
     unsigned int GetGpsWeek() const { return GpsWeeks(); }
 
@@ -595,8 +622,8 @@ struct SMjdTime
     void GetGpsDay(unsigned short& runGpsWeek, unsigned char& rucGpsDn) const
     {
         runGpsWeek = static_cast<unsigned short>(GpsWeeks());
-        rucGpsDn = static_cast<unsigned char>(
-            MjdDetail::TruncToInt64((GpsDays() * 86400000.0 + m_dMjdFractMilliseconds) / 1000.0 / 86400.0 + 0.5));
+        rucGpsDn = static_cast<unsigned char>(MjdDetail::TruncToInt64(
+            (GpsDays() * 86400000.0 + m_dMjdFractMilliseconds) / 1000.0 / 86400.0 + 0.5));
         if (rucGpsDn == 0)
         {
             ZEL_ASSERT(runGpsWeek > 0);
@@ -643,7 +670,8 @@ struct SMjdTime
         unsigned int uiMs = 0;
         GetBdsTimeMs(uiWeek, uiMs);
         runBdsWeek = static_cast<unsigned short>(uiWeek);
-        unsigned char ucDn = static_cast<unsigned char>(MjdDetail::TruncToInt64(uiMs / 1000.0 / 86400.0 + 0.5));
+        unsigned char ucDn =
+            static_cast<unsigned char>(MjdDetail::TruncToInt64(uiMs / 1000.0 / 86400.0 + 0.5));
         if (ucDn == 0)
         {
             ZEL_ASSERT(runBdsWeek > 0);
@@ -655,7 +683,10 @@ struct SMjdTime
 
     // ---------------------------------------------------------------- Julian and calendar getters
 
-    double GetJulianDate() const { return m_dMjdFractMilliseconds / 86400000.0 + m_lMjdDay + c_dJD_MJD_OFFSET; }
+    double GetJulianDate() const
+    {
+        return m_dMjdFractMilliseconds / 86400000.0 + m_lMjdDay + c_dJD_MJD_OFFSET;
+    }
     double GetMjd() const { return m_dMjdFractMilliseconds / 86400000.0 + m_lMjdDay; }
 
     void GetMjdDayFract(int32_t& rlDay, double& rdFract) const
@@ -735,8 +766,8 @@ struct SMjdTime
         const int iMonth = 1;
         const double dDay = 0.0;
         ZEL_ASSERT(__IsValidDate(iYear, iMonth, dDay));
-        return static_cast<int>(
-            MjdDetail::TruncToInt64(GetMjd() - static_cast<double>(MjdDetail::CalendarToMjd(iYear, iMonth, 0))));
+        return static_cast<int>(MjdDetail::TruncToInt64(
+            GetMjd() - static_cast<double>(MjdDetail::CalendarToMjd(iYear, iMonth, 0))));
     }
 
     // ---------------------------------------------------------------- validity of dates
@@ -832,8 +863,8 @@ struct SMjdTime
         int iYear = 0, iMonth = 0, iDay = 0, iHour = 0, iMinute = 0;
         double dSeconds = 0.0;
         GetDate(iYear, iMonth, iDay, iHour, iMinute, dSeconds);
-        return Formatted(std::snprintf(szBuffer, ulLength, "%3.2d%3.2d%3.2d%3.2d%3.2d%11.7f", iYear % 100, iMonth,
-                                       iDay, iHour, iMinute, dSeconds),
+        return Formatted(std::snprintf(szBuffer, ulLength, "%3.2d%3.2d%3.2d%3.2d%3.2d%11.7f", iYear % 100,
+                                       iMonth, iDay, iHour, iMinute, dSeconds),
                          ulLength);
     }
 
@@ -843,9 +874,9 @@ struct SMjdTime
         {
             return false;
         }
-        return Formatted(
-            std::snprintf(szBuffer, ulLength, "%05d %012.3lf", static_cast<int>(m_lMjdDay), m_dMjdFractMilliseconds),
-            ulLength);
+        return Formatted(std::snprintf(szBuffer, ulLength, "%05d %012.3lf", static_cast<int>(m_lMjdDay),
+                                       m_dMjdFractMilliseconds),
+                         ulLength);
     }
 
     bool GetTextGps(char* szBuffer, size_t ulLength) const
@@ -857,7 +888,8 @@ struct SMjdTime
         unsigned short unWeek = 0;
         unsigned int uiMs = 0;
         GetGpsTimeMs(unWeek, uiMs);
-        return Formatted(std::snprintf(szBuffer, ulLength, "%04d %09u", static_cast<int>(unWeek), uiMs), ulLength);
+        return Formatted(std::snprintf(szBuffer, ulLength, "%04d %09u", static_cast<int>(unWeek), uiMs),
+                         ulLength);
     }
 
     // Stream forms; values go out with the stream's current precision and
@@ -879,8 +911,9 @@ struct SMjdTime
             double dSeconds = 0.0;
             GetDate(iYear, iMonth, iDay, iHour, iMinute, dSeconds);
             // The fill character stays on the stream.
-            return os << std::setfill('0') << std::setw(2) << iDay << "." << std::setw(2) << iMonth << "." << iYear
-                      << "  " << std::setw(2) << iHour << ":" << std::setw(2) << iMinute << ":" << dSeconds;
+            return os << std::setfill('0') << std::setw(2) << iDay << "." << std::setw(2) << iMonth << "."
+                      << iYear << "  " << std::setw(2) << iHour << ":" << std::setw(2) << iMinute << ":"
+                      << dSeconds;
         }
         case MJDTXT_MJD:
             return os << GetMjd();
@@ -990,7 +1023,8 @@ private:
     {
         rulWeek = GpsWeeks();
         const int64_t lMs = MjdDetail::TruncToInt64(m_dMjdFractMilliseconds + 0.5);
-        rulMs = static_cast<uint32_t>(GpsDays() * 86400000u + static_cast<uint32_t>(static_cast<uint64_t>(lMs)));
+        rulMs =
+            static_cast<uint32_t>(GpsDays() * 86400000u + static_cast<uint32_t>(static_cast<uint64_t>(lMs)));
         if (rulMs >= c_ulMSEC_PER_WEEK)
         {
             rulMs -= c_ulMSEC_PER_WEEK;
