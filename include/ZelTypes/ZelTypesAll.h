@@ -5,7 +5,9 @@
 #include <ZelTypes/Core/Common/ZelAssert.h>
 #include <ZelTypes/Core/Common/ZelExport.h>
 #include <ZelTypes/Core/Common/ZelLock.h>
+#include <ZelTypes/Core/Common/ZelObsInfo.h>
 #include <ZelTypes/Core/Common/ZelRecordIO.h>
+#include <ZelTypes/Core/Common/ZelTypesIDs.h>
 #include <ZelTypes/Core/Common/mjdTime.h>
 
 #endif
