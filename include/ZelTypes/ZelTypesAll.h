@@ -3,11 +3,16 @@
 
 // Every public header of the library.
 #include <ZelTypes/Core/Common/ZelAssert.h>
+#include <ZelTypes/Core/Common/ZelConvGeographicCartesian.h>
+#include <ZelTypes/Core/Common/ZelCoordinateSet.h>
+#include <ZelTypes/Core/Common/ZelCoordinateTriplet.h>
 #include <ZelTypes/Core/Common/ZelExport.h>
 #include <ZelTypes/Core/Common/ZelLock.h>
 #include <ZelTypes/Core/Common/ZelObsInfo.h>
 #include <ZelTypes/Core/Common/ZelRecordIO.h>
 #include <ZelTypes/Core/Common/ZelTypesIDs.h>
 #include <ZelTypes/Core/Common/mjdTime.h>
+#include <ZelTypes/Ext/Common/ZelExtCoordTypes.h>
+#include <ZelTypes/Ext/Common/ZelExtMiscTypes.h>
 
 #endif

@@ -118,15 +118,19 @@ public:
     }
 
     // A nested record through its own writer; its count is added first, then
-    // a failure is reported here as well.
-    template <class R> bool Record(const R& rRecord)
+    // a failure is reported here as well, unless the record says otherwise.
+    template <class R> bool Record(const R& rRecord, bool bReport = true)
     {
         uint64_t ulLocal = 0;
         const bool bOk = rRecord.saveData(Here(), Remaining(), &ulLocal);
         *m_pulOffset += ulLocal;
         if (!bOk)
         {
-            ZEL_ASSERT(false);
+            if (bReport)
+            {
+                ZEL_ASSERT(false);
+            }
+            m_bOverrun = true;
             return false;
         }
         return true;

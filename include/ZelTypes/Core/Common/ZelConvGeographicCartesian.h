@@ -1,0 +1,53 @@
+#ifndef ZELTYPES_CORE_COMMON_ZELCONVGEOGRAPHICCARTESIAN_H
+#define ZELTYPES_CORE_COMMON_ZELCONVGEOGRAPHICCARTESIAN_H
+
+// The library's one conversion between earth-centred cartesian coordinates
+// and geographic coordinates on the WGS 84 ellipsoid: closed form, no
+// iteration. Angles in radians; geographic order latitude, longitude,
+// ellipsoidal height; cartesian order X, Y, Z; lengths in metres.
+//
+// The optional rotation is the earth-centred to north/east/up matrix without
+// its constant zero (east z), 8 doubles:
+//   [0] -sin(lat) cos(lon)  [1] -sin(lat) sin(lon)  [2] cos(lat)     north
+//   [3] -sin(lon)           [4] cos(lon)                             east
+//   [5] cos(lat) cos(lon)   [6] cos(lat) sin(lon)   [7] sin(lat)     up
+
+#include <ZelTypes/Core/Common/ZelCoordinateTriplet.h>
+#include <ZelTypes/Core/Common/ZelExport.h>
+
+#include <cstddef>
+
+namespace ZELN
+{
+
+// WGS 84 as stored; used as given, never recomputed from each other.
+constexpr double c_dWGS84_SEMI_MAJOR_AXIS = 6378137.0;
+constexpr double c_dWGS84_SEMI_MINOR_AXIS = 6356752.3142;
+constexpr double c_dWGS84_ECC_SQUARED = 0.00669437999013;
+constexpr double c_dWGS84_ONE_MINUS_ECC_SQUARED = 0.99330562000987;
+// Bowring's closed form: a e^2 (denominator) and e'^2 b (numerator).
+constexpr double c_dWGS84_BOWRING_DENOMINATOR = 42697.67270710779;
+constexpr double c_dWGS84_BOWRING_NUMERATOR = 42841.31151296818;
+
+constexpr size_t c_ulNB_ROTATION_VALUES = 8;
+
+// A point on the polar axis (or with a NaN in X or Y) has no conversion: the
+// outputs, rotation included, are left as they were, without a report.
+ZELTYPES_API void ConvCartesianToGeographic(double dX, double dY, double dZ, double& rdLat, double& rdLon,
+                                            double& rdHeight, double* pdRotation);
+
+ZELTYPES_API void ConvGeographicToCartesian(double dLat, double dLon, double dHeight, double& rdX,
+                                            double& rdY, double& rdZ, double* pdRotation);
+
+// Triplet forms: rCart must be cartesian (rGeo geographic); another type
+// reports "false" and does nothing. The result's type is set in every other
+// case, also when the point has no conversion.
+ZELTYPES_API void ConvCartesianToGeographic(const SZelCoordinateTriplet& rCart, SZelCoordinateTriplet& rGeo,
+                                            double* pdRotation);
+
+ZELTYPES_API void ConvGeographicToCartesian(const SZelCoordinateTriplet& rGeo, SZelCoordinateTriplet& rCart,
+                                            double* pdRotation);
+
+} // namespace ZELN
+
+#endif
