@@ -14,5 +14,6 @@
 #include <ZelTypes/Core/Common/mjdTime.h>
 #include <ZelTypes/Ext/Common/ZelExtCoordTypes.h>
 #include <ZelTypes/Ext/Common/ZelExtMiscTypes.h>
+#include <ZelTypes/Ext/Gnss/ZelExtEphTypes.h>
 
 #endif

@@ -34,4 +34,8 @@ ZELTYPES_API ZelTraceHandler SetTraceHandler(const ZelTraceHandler& rHandler);
         }                                                                                                    \
     } while (false)
 
+// A report whose text is a message rather than an expression (such as the
+// refusal of an image of another version): the hook gets the text as given.
+#define ZEL_REPORT(szText) ((void)::ZELN::GetAssertHandler()((szText), __FILE__, __LINE__))
+
 #endif

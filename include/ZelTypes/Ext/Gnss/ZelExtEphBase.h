@@ -1,0 +1,179 @@
+#ifndef ZELTYPES_EXT_GNSS_ZELEXTEPHBASE_H
+#define ZELTYPES_EXT_GNSS_ZELEXTEPHBASE_H
+
+// Root of the broadcast ephemeris family: the running satellite numbering,
+// the validity span result, the abstract interface of every ephemeris and
+// the Keplerian block shared by the Keplerian classes.
+
+#include <ZelTypes/Core/Common/ZelAssert.h>
+#include <ZelTypes/Core/Common/ZelExport.h>
+#include <ZelTypes/Core/Common/ZelTypesIDs.h>
+#include <ZelTypes/Core/Common/mjdTime.h>
+#include <ZelTypes/Ext/Gnss/ZelExtEphCompare.h>
+
+#include <cstddef>
+#include <cstdint>
+
+namespace ZELN
+{
+
+// One running 8-bit number space for all systems: a number says its system.
+// These are no global satellite numbers.
+constexpr uint8_t POS_MAX_PRN_GPS = 32;
+constexpr uint8_t POS_OFFSET_PRN_GAL = 56;
+constexpr uint8_t POS_OFFSET_PRN_BDS = 92;
+constexpr uint8_t POS_OFFSET_PRN_QZSS = 155;
+constexpr uint8_t POS_OFFSET_PRN_SBAS = 165;
+constexpr uint8_t POS_OFFSET_PRN_NAVIC = 185;
+
+// Galileo source value of a record that holds no set.
+constexpr uint8_t POS_SAT_EPH_GAL_SRC_INVALID = 0;
+
+enum EZelEphValidity
+{
+    ZELEPHVALIDITY_VALID = 0,         // inside the span
+    ZELEPHVALIDITY_EXPIRED = 1,       // the time lies after the span
+    ZELEPHVALIDITY_NOT_YET_VALID = 2, // the time lies before the span
+    ZELEPHVALIDITY_NO_SPAN = 5        // the system has no span
+};
+
+// The family's one assignment of broadcast elements to the Keplerian block.
+// Indices 6 to 8 are the rates, compared more coarsely.
+enum EZelEphKeplerIndex
+{
+    ZELEPHKEPLER_M0 = 0,       // mean anomaly at reference time
+    ZELEPHKEPLER_ECC = 1,      // eccentricity
+    ZELEPHKEPLER_SQRTA = 2,    // square root of the semi-major axis
+    ZELEPHKEPLER_OMEGA0 = 3,   // longitude of ascending node at weekly epoch
+    ZELEPHKEPLER_I0 = 4,       // inclination at reference time
+    ZELEPHKEPLER_OMEGA = 5,    // argument of perigee
+    ZELEPHKEPLER_DELTAN = 6,   // mean motion difference
+    ZELEPHKEPLER_OMEGADOT = 7, // rate of right ascension
+    ZELEPHKEPLER_IDOT = 8,     // rate of inclination
+    ZELEPHKEPLER_COUNT = 9
+};
+
+enum EZelEphHarmonicIndex
+{
+    ZELEPHHARMONIC_CUC = 0,
+    ZELEPHHARMONIC_CUS = 1,
+    ZELEPHHARMONIC_CRC = 2,
+    ZELEPHHARMONIC_CRS = 3,
+    ZELEPHHARMONIC_CIC = 4,
+    ZELEPHHARMONIC_CIS = 5,
+    ZELEPHHARMONIC_COUNT = 6
+};
+
+// Order of the clock polynomial terms wherever a class holds them as an array.
+enum EZelEphClockIndex
+{
+    ZELEPHCLOCK_AF0 = 0,
+    ZELEPHCLOCK_AF1 = 1,
+    ZELEPHCLOCK_AF2 = 2
+};
+
+// Abstract interface of every ephemeris. The slot order is part of the
+// exported interface: do not reorder.
+class ZELTYPES_API ZELX_SAT_EPHEMERIS_BASE
+{
+public:
+    virtual ~ZELX_SAT_EPHEMERIS_BASE();
+    virtual uint8_t getSvId() const = 0;
+    virtual SZelSatID getSatId() const = 0;
+    virtual SMjdTime getToe() const = 0;
+    virtual uint32_t getIod() const = 0;
+    virtual bool isHealthy() const = 0;
+    virtual uint8_t getPrnOffset() const = 0;
+    virtual uint8_t getFirstPrn() const = 0;
+
+    // 8-bit arithmetic throughout: a number under the offset wraps.
+    uint8_t getSatIndex() const { return static_cast<uint8_t>(getSvId() - getPrnOffset() - 1); }
+    uint8_t getSatNumber() const { return static_cast<uint8_t>(getSvId() - getPrnOffset()); }
+    uint8_t getPrn() const { return static_cast<uint8_t>(getSvId() - getPrnOffset() - 1 + getFirstPrn()); }
+
+    // The span of a system with a margin of 60 seconds.
+    static EZelEphValidity checkValidity(EZelSatSystem eSatSystem, const SMjdTime& stTime,
+                                         const SMjdTime& stToe);
+
+protected:
+    ZELX_SAT_EPHEMERIS_BASE() = default;
+    ZELX_SAT_EPHEMERIS_BASE(const ZELX_SAT_EPHEMERIS_BASE&) = default;
+    ZELX_SAT_EPHEMERIS_BASE& operator=(const ZELX_SAT_EPHEMERIS_BASE&) = default;
+
+    // stTime - stToe in seconds against [lLower, lUpper]; a limit itself lies inside.
+    static EZelEphValidity checkSpan(const SMjdTime& stTime, const SMjdTime& stToe, int32_t lUpper,
+                                     int32_t lLower);
+
+    // Limits of a class form, formed in 32 bits: upper = ulSpan + m, lower = -ulSpanBack - m.
+    static EZelEphValidity checkSpanMargin(const SMjdTime& stTime, const SMjdTime& stToe, uint32_t ulSpan,
+                                           uint32_t ulSpanBack, uint32_t ulMarginSeconds);
+};
+
+// Accuracy index to metres and back for the classes that hold metres
+// (BeiDou, NavIC).
+ZELTYPES_API float ConvUraIndexToMetres(uint8_t ucIndex);
+ZELTYPES_API uint8_t ConvUraMetresToIndex(float fMetres);
+
+// The Keplerian block: carried and compared, never evaluated.
+class ZELTYPES_API ZELX_SAT_EPHEMERIS_COMMON
+{
+public:
+    static constexpr uint64_t c_ulImageSize = 96;
+
+    double adKepler[ZELEPHKEPLER_COUNT];
+    float afHarmonics[ZELEPHHARMONIC_COUNT];
+
+    ZELX_SAT_EPHEMERIS_COMMON();
+    ZELX_SAT_EPHEMERIS_COMMON(const ZELX_SAT_EPHEMERIS_COMMON&) = default;
+    ZELX_SAT_EPHEMERIS_COMMON& operator=(const ZELX_SAT_EPHEMERIS_COMMON&) = default;
+    virtual ~ZELX_SAT_EPHEMERIS_COMMON();
+    virtual void clear();
+
+    double getSqrtA() const { return adKepler[ZELEPHKEPLER_SQRTA]; }
+    double getA() const { return adKepler[ZELEPHKEPLER_SQRTA] * adKepler[ZELEPHKEPLER_SQRTA]; }
+
+    // An index outside the block would write past it: reported, nothing stored.
+    void setKepler(size_t ulIndex, double dValue);
+    void setHarmonic(size_t ulIndex, float fValue);
+    void setSqrtA(double dSqrtA) { adKepler[ZELEPHKEPLER_SQRTA] = dSqrtA; }
+
+    uint64_t getSize() const { return c_ulImageSize; }
+    bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength) const;
+    bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength);
+};
+
+// Indices 0 to 5 at 1e-14, the rates 6 to 8 at 1e-6, the harmonics at 1e-6 (32 bits).
+ZELTYPES_API bool operator==(const ZELX_SAT_EPHEMERIS_COMMON& a, const ZELX_SAT_EPHEMERIS_COMMON& b);
+inline bool operator!=(const ZELX_SAT_EPHEMERIS_COMMON& a, const ZELX_SAT_EPHEMERIS_COMMON& b)
+{
+    return !(a == b);
+}
+
+// The block with two further values; no binary form. clear() keeps the two.
+class ZELTYPES_API ZELX_SAT_EPHEMERIS_PARAMS : public ZELX_SAT_EPHEMERIS_COMMON
+{
+public:
+    uint8_t ucAux1;
+    double dAux2;
+
+    ZELX_SAT_EPHEMERIS_PARAMS();
+    ZELX_SAT_EPHEMERIS_PARAMS(const ZELX_SAT_EPHEMERIS_PARAMS&) = default;
+    ZELX_SAT_EPHEMERIS_PARAMS& operator=(const ZELX_SAT_EPHEMERIS_PARAMS&) = default;
+    ~ZELX_SAT_EPHEMERIS_PARAMS() override;
+
+    uint8_t getAux1() const { return ucAux1; }
+    double getAux2() const { return dAux2; }
+    void setAux1(uint8_t ucValue) { ucAux1 = ucValue; }
+    void setAux2(double dValue) { dAux2 = dValue; }
+};
+
+// The block, then ucAux1 exactly and dAux2 at 1e-14.
+ZELTYPES_API bool operator==(const ZELX_SAT_EPHEMERIS_PARAMS& a, const ZELX_SAT_EPHEMERIS_PARAMS& b);
+inline bool operator!=(const ZELX_SAT_EPHEMERIS_PARAMS& a, const ZELX_SAT_EPHEMERIS_PARAMS& b)
+{
+    return !(a == b);
+}
+
+} // namespace ZELN
+
+#endif

@@ -1,0 +1,356 @@
+#include <ZelTypes/Ext/Gnss/ZelExtEphGps.h>
+
+#include "ZelExtEphIO.h"
+
+#include <atomic>
+
+namespace ZELN
+{
+
+namespace
+{
+
+// Broadcast accuracy by index, and the upper limit in metres of each index.
+constexpr float c_afURA_METRES[16] = {2.0f,  2.8f,   4.0f,   5.7f,   8.0f,    11.3f,   16.0f,   32.0f,
+                                      64.0f, 128.0f, 256.0f, 512.0f, 1024.0f, 2048.0f, 4096.0f, 32767.0f};
+constexpr float c_afURA_LIMITS[15] = {2.4f,  3.4f,   4.85f,  6.85f,  9.65f,   13.65f,  24.0f,  48.0f,
+                                      96.0f, 192.0f, 384.0f, 768.0f, 1536.0f, 3072.0f, 6144.0f};
+
+// Once-only report of a transmission time a whole half week before its
+// time of ephemeris. Atomic so that a race is defined; a lost race still
+// costs one more report, as with a plain flag.
+std::atomic<bool> s_bTransmissionTimeReported(false);
+
+// Signed 32-bit arithmetic that wraps instead of overflowing.
+int32_t Wrap32(int64_t l)
+{
+    return static_cast<int32_t>(static_cast<uint32_t>(static_cast<uint64_t>(l)));
+}
+
+} // namespace
+
+ZELX_SAT_EPHEMERIS::ZELX_SAT_EPHEMERIS()
+    : uiSvId(0), bValid(false), ulTransmissionTime(c_ulNO_TRANSMISSION_TIME), unGPSWeek(0), unUraIndex(0),
+      aunWords(), unIodc(0), fGroupDelay(0.0f), ulToe(0), ulToc(0), afClock(),
+      ucFitIntervalFlag(c_ucFIT_INTERVAL_UNKNOWN), unHealth(1)
+{
+}
+
+ZELX_SAT_EPHEMERIS::~ZELX_SAT_EPHEMERIS() = default;
+
+void ZELX_SAT_EPHEMERIS::clear()
+{
+    ZELX_SAT_EPHEMERIS_COMMON::clear();
+    uiSvId = 0;
+    bValid = false;
+    ulTransmissionTime = c_ulNO_TRANSMISSION_TIME;
+    unGPSWeek = 0;
+    unUraIndex = 0;
+    for (uint16_t& run : aunWords)
+    {
+        run = 0;
+    }
+    unIodc = 0;
+    fGroupDelay = 0.0f;
+    ulToe = 0;
+    ulToc = 0;
+    for (float& rf : afClock)
+    {
+        rf = 0.0f;
+    }
+    ucFitIntervalFlag = c_ucFIT_INTERVAL_UNKNOWN;
+    unHealth = 1;
+}
+
+uint8_t ZELX_SAT_EPHEMERIS::getSvId() const
+{
+    return uiSvId;
+}
+
+SZelSatID ZELX_SAT_EPHEMERIS::getSatId() const
+{
+    return SZelSatID(ZELSATSYSTEM_GPS, uiSvId);
+}
+
+SMjdTime ZELX_SAT_EPHEMERIS::getToe() const
+{
+    return SMjdTime(static_cast<unsigned int>(unGPSWeek), static_cast<double>(ulToe), MJDACC_NANOSECOND);
+}
+
+uint32_t ZELX_SAT_EPHEMERIS::getIod() const
+{
+    return unIodc;
+}
+
+bool ZELX_SAT_EPHEMERIS::isHealthy() const
+{
+    return unHealth == 0;
+}
+
+uint8_t ZELX_SAT_EPHEMERIS::getPrnOffset() const
+{
+    return 0;
+}
+
+uint8_t ZELX_SAT_EPHEMERIS::getFirstPrn() const
+{
+    return 1;
+}
+
+EZelEphValidity ZELX_SAT_EPHEMERIS::checkValidity(const SMjdTime& stTime, const SMjdTime& stToe,
+                                                  uint32_t ulMarginSeconds)
+{
+    return checkSpanMargin(stTime, stToe, 10800, 10800, ulMarginSeconds);
+}
+
+uint8_t ZELX_SAT_EPHEMERIS::getFitIntervalHours() const
+{
+    if (ucFitIntervalFlag == 0)
+    {
+        return 4;
+    }
+    if (ucFitIntervalFlag != 1)
+    {
+        return 0;
+    }
+    if (unIodc >= 240 && unIodc <= 247)
+    {
+        return 8;
+    }
+    if ((unIodc >= 248 && unIodc <= 255) || unIodc == 496)
+    {
+        return 14;
+    }
+    if ((unIodc >= 497 && unIodc <= 503) || (unIodc >= 1021 && unIodc <= 1023))
+    {
+        return 26;
+    }
+    // Values reserved by the signal's definition are reported; the answer stays 6.
+    // clang-format off
+    ZEL_ASSERT(!((unIodc >= 504 && unIodc <= 511) || (unIodc >= 752 && unIodc <= 757) ));
+    // clang-format on
+    return 6;
+}
+
+int32_t ZELX_SAT_EPHEMERIS::getTransmissionTimeOfWeek() const
+{
+    if (ulTransmissionTime == c_ulNO_TRANSMISSION_TIME)
+    {
+        // Estimated 2 h 1 min before the time of ephemeris, on a 30-second grid.
+        const int32_t x = Wrap32(static_cast<int64_t>(static_cast<int32_t>(ulToe)) - 7260);
+        const int32_t q = (x / 30) * 30;
+        const int32_t r = x - q;
+        if (r >= 15)
+        {
+            return Wrap32(static_cast<int64_t>(q) + 30);
+        }
+        if (r < -14)
+        {
+            return Wrap32(static_cast<int64_t>(q) - 30);
+        }
+        return q;
+    }
+    const int32_t d = static_cast<int32_t>(ulTransmissionTime - ulToe);
+    if (d > 302400)
+    {
+        // The message is from the week before that of ulToe.
+        return Wrap32(static_cast<int64_t>(ulTransmissionTime) - 604800);
+    }
+    if (d < -302400)
+    {
+        if (!s_bTransmissionTimeReported.load(std::memory_order_relaxed))
+        {
+            s_bTransmissionTimeReported.store(true, std::memory_order_relaxed);
+            // clang-format off
+            ZEL_ASSERT((!"Validity time of ephemeris is too far away in the future w.r.t. ephemeris transmission time. Please check the data"));
+            // clang-format on
+        }
+        return Wrap32(static_cast<int64_t>(ulTransmissionTime) + 604800);
+    }
+    return static_cast<int32_t>(ulTransmissionTime);
+}
+
+float ZELX_SAT_EPHEMERIS::getUra() const
+{
+    return c_afURA_METRES[unUraIndex < 15 ? unUraIndex : 15];
+}
+
+void ZELX_SAT_EPHEMERIS::setUra(float fMetres)
+{
+    for (uint16_t unIdx = 0; unIdx < 15; ++unIdx)
+    {
+        if (fMetres <= c_afURA_LIMITS[unIdx])
+        {
+            unUraIndex = unIdx;
+            return;
+        }
+    }
+    unUraIndex = 15;
+}
+
+// The check names the argument as broadcast; it shadows the field on purpose.
+#if defined(__GNUC__)
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wshadow"
+#endif
+void ZELX_SAT_EPHEMERIS::setHealth(uint16_t unHealth)
+{
+    ZEL_ASSERT(0 == (unHealth & ~0x3f));
+    this->unHealth = static_cast<uint16_t>(unHealth & 0x3F);
+}
+#if defined(__GNUC__)
+#pragma GCC diagnostic pop
+#endif
+
+void ZELX_SAT_EPHEMERIS::setHealthBool(bool bUnhealthy)
+{
+    setHealth(bUnhealthy ? 32 : 0);
+}
+
+void ZELX_SAT_EPHEMERIS::setWord(size_t ulIndex, uint16_t unValue)
+{
+    // An index outside the array would write past it.
+    if (ulIndex >= 5)
+    {
+        ZEL_ASSERT(false);
+        return;
+    }
+    aunWords[ulIndex] = unValue;
+}
+
+void ZELX_SAT_EPHEMERIS::setClock(size_t ulIndex, float fValue)
+{
+    if (ulIndex >= 3)
+    {
+        ZEL_ASSERT(false);
+        return;
+    }
+    afClock[ulIndex] = fValue;
+}
+
+// Image: own fields at 0 to 48, the Keplerian block at 49.
+bool ZELX_SAT_EPHEMERIS::saveData(unsigned char* pBuffer, uint64_t uiBufferLength) const
+{
+    if (!ZelIo::ExtFits(pBuffer, uiBufferLength, c_ulImageSize))
+    {
+        return false;
+    }
+    ZelIo::PutAt(pBuffer, 0, uiSvId);
+    ZelIo::PutBoolAt(pBuffer, 1, bValid);
+    ZelIo::PutAt(pBuffer, 2, ulTransmissionTime);
+    ZelIo::PutAt(pBuffer, 6, unGPSWeek);
+    ZelIo::PutAt(pBuffer, 8, unUraIndex);
+    ZelIo::PutArrayAt(pBuffer, 10, aunWords);
+    ZelIo::PutAt(pBuffer, 20, unIodc);
+    ZelIo::PutAt(pBuffer, 22, fGroupDelay);
+    ZelIo::PutAt(pBuffer, 26, ulToe);
+    ZelIo::PutAt(pBuffer, 30, ulToc);
+    ZelIo::PutArrayAt(pBuffer, 34, afClock);
+    ZelIo::PutAt(pBuffer, 46, ucFitIntervalFlag);
+    ZelIo::PutAt(pBuffer, 47, unHealth);
+    if (!ZELX_SAT_EPHEMERIS_COMMON::saveData(pBuffer + 49, uiBufferLength - 49))
+    {
+        ZEL_ASSERT(false);
+        return false;
+    }
+    return true;
+}
+
+bool ZELX_SAT_EPHEMERIS::loadData(const unsigned char* pBuffer, uint64_t uiBufferLength)
+{
+    if (!ZelIo::ExtFits(pBuffer, uiBufferLength, c_ulImageSize))
+    {
+        return false;
+    }
+    ZelIo::GetAt(pBuffer, 0, uiSvId);
+    bValid = ZelIo::GetBoolAt(pBuffer, 1);
+    ZelIo::GetAt(pBuffer, 2, ulTransmissionTime);
+    ZelIo::GetAt(pBuffer, 6, unGPSWeek);
+    ZelIo::GetAt(pBuffer, 8, unUraIndex);
+    ZelIo::GetArrayAt(pBuffer, 10, aunWords);
+    ZelIo::GetAt(pBuffer, 20, unIodc);
+    ZelIo::GetAt(pBuffer, 22, fGroupDelay);
+    ZelIo::GetAt(pBuffer, 26, ulToe);
+    ZelIo::GetAt(pBuffer, 30, ulToc);
+    ZelIo::GetArrayAt(pBuffer, 34, afClock);
+    ZelIo::GetAt(pBuffer, 46, ucFitIntervalFlag);
+    ZelIo::GetAt(pBuffer, 47, unHealth);
+    if (!ZELX_SAT_EPHEMERIS_COMMON::loadData(pBuffer + 49, uiBufferLength - 49))
+    {
+        ZEL_ASSERT(false);
+        return false;
+    }
+    return true;
+}
+
+bool operator==(const ZELX_SAT_EPHEMERIS& a, const ZELX_SAT_EPHEMERIS& b)
+{
+    if (static_cast<const ZELX_SAT_EPHEMERIS_COMMON&>(a) != static_cast<const ZELX_SAT_EPHEMERIS_COMMON&>(b))
+    {
+        return false;
+    }
+    if (a.uiSvId != b.uiSvId || a.unHealth != b.unHealth || a.unGPSWeek != b.unGPSWeek ||
+        a.unUraIndex != b.unUraIndex)
+    {
+        return false;
+    }
+    for (size_t ulIdx = 0; ulIdx < 5; ++ulIdx)
+    {
+        if (a.aunWords[ulIdx] != b.aunWords[ulIdx])
+        {
+            return false;
+        }
+    }
+    if (a.unIodc != b.unIodc || !AreCloseF(a.fGroupDelay, b.fGroupDelay, 1e-6f) || a.ulToe != b.ulToe ||
+        a.ulToc != b.ulToc)
+    {
+        return false;
+    }
+    for (size_t ulIdx = 0; ulIdx < 3; ++ulIdx)
+    {
+        if (!AreCloseF(a.afClock[ulIdx], b.afClock[ulIdx], 1e-6f))
+        {
+            return false;
+        }
+    }
+    return a.ucFitIntervalFlag == b.ucFitIntervalFlag;
+}
+
+bool isNewEphemerisGps(const ZELX_SAT_EPHEMERIS& rEphCurrent, const ZELX_SAT_EPHEMERIS& rEphNew)
+{
+    if (!rEphNew.bValid)
+    {
+        return false;
+    }
+    if (!rEphCurrent.bValid)
+    {
+        return true;
+    }
+    if (rEphCurrent.isHealthy() != rEphNew.isHealthy())
+    {
+        return true;
+    }
+    const SMjdTime stToeCurrent = rEphCurrent.getToe();
+    const SMjdTime stToeNew = rEphNew.getToe();
+    // A set may step back, but not by more than 64 s before the hour of the held one.
+    SMjdTime stEarliest = stToeCurrent;
+    stEarliest.RoundTo(MJDSTEP_1H);
+    stEarliest.SubMilliseconds(64000.0);
+    if (stToeNew < stEarliest)
+    {
+        return false;
+    }
+    if (rEphCurrent.unIodc != rEphNew.unIodc)
+    {
+        return true;
+    }
+    if (stToeNew < stToeCurrent || stToeCurrent < stToeNew)
+    {
+        return true;
+    }
+    // Same time and issue: a change of content does not replace the held set.
+    ZEL_ASSERT(rEphNew == rEphCurrent);
+    return false;
+}
+
+} // namespace ZELN
