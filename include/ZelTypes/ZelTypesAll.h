@@ -7,6 +7,8 @@
 #include <ZelTypes/Core/Common/ZelCoordinateSet.h>
 #include <ZelTypes/Core/Common/ZelCoordinateTriplet.h>
 #include <ZelTypes/Core/Common/ZelExport.h>
+#include <ZelTypes/Core/Common/ZelFrequencyManager.h>
+#include <ZelTypes/Core/Common/ZelGlonassFrequencies.h>
 #include <ZelTypes/Core/Common/ZelLock.h>
 #include <ZelTypes/Core/Common/ZelObsInfo.h>
 #include <ZelTypes/Core/Common/ZelRecordIO.h>

@@ -4,15 +4,7 @@
 
 #include <boost/move/utility_core.hpp>
 
-// Static objects of the library come up in a fixed order across translation
-// units: the assertion hook, the trace hook, the locks, then the frequency
-// manager. init_priority orders them at load and reverses them at unloading,
-// so a check that fails while another static is built reaches a valid hook.
-#if defined(__GNUC__) || defined(__clang__)
-#define ZEL_INIT_PRIORITY(n) __attribute__((init_priority(n)))
-#else
-#define ZEL_INIT_PRIORITY(n)
-#endif
+#include "ZelStaticOrder.h"
 
 namespace ZELN
 {
