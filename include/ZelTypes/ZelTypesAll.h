@@ -10,12 +10,16 @@
 #include <ZelTypes/Core/Common/ZelFrequencyManager.h>
 #include <ZelTypes/Core/Common/ZelGlonassFrequencies.h>
 #include <ZelTypes/Core/Common/ZelLock.h>
+#include <ZelTypes/Core/Common/ZelObsEpoch.h>
 #include <ZelTypes/Core/Common/ZelObsInfo.h>
 #include <ZelTypes/Core/Common/ZelRecordIO.h>
+#include <ZelTypes/Core/Common/ZelTimeBlockIO.h>
 #include <ZelTypes/Core/Common/ZelTypesIDs.h>
+#include <ZelTypes/Core/Common/ZelTypesObs.h>
 #include <ZelTypes/Core/Common/mjdTime.h>
 #include <ZelTypes/Ext/Common/ZelExtCoordTypes.h>
 #include <ZelTypes/Ext/Common/ZelExtMiscTypes.h>
 #include <ZelTypes/Ext/Gnss/ZelExtEphTypes.h>
+#include <ZelTypes/Ext/Gnss/ZelExtObsTypes.h>
 
 #endif

@@ -192,6 +192,9 @@ struct SMjdTime
                m_dMjdFractMilliseconds >= 0.0 && m_dMjdFractMilliseconds < c_ulMSEC_PER_DAY;
     }
 
+    // The same test under the name that the checks of the epoch records use.
+    bool IsValid() const { return isValid(); }
+
     void Reset()
     {
         m_lMjdDay = 0;

@@ -1,0 +1,232 @@
+// Observation epochs and output records: binary forms beside a plain copy of
+// the same number of bytes, and the text line of an epoch.
+//
+// The counter "x_memcpy" is the time of one call divided by the time of one
+// memcpy of the same number of bytes, both measured in the same process.
+#include <ZelTypes/Core/Common/ZelObsEpoch.h>
+
+#include <benchmark/benchmark.h>
+
+#include <chrono>
+#include <cstring>
+#include <iomanip>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace
+{
+
+using namespace ZELN;
+
+constexpr int c_iNB_SATS = 40;
+constexpr int c_iNB_SIGNALS = 4;
+constexpr int c_iNB_CORRECTIONS = 400;
+
+SZelObservationEpoch MakeEpoch()
+{
+    const EZelSatSystem aeSys[] = {ZELSATSYSTEM_GPS, ZELSATSYSTEM_GLONASS, ZELSATSYSTEM_GALILEO,
+                                   ZELSATSYSTEM_BEIDOU};
+    SZelObservationEpoch stEpoch;
+    stEpoch.stZelObservationEpochHeader.stTime.SetGpsTimeMs(2300, 345600000.0);
+    stEpoch.stZelObservationEpochHeader.ucNumSats = c_iNB_SATS;
+    for (int iSat = 0; iSat < c_iNB_SATS; ++iSat)
+    {
+        SZelSatObservation stSat;
+        stSat.stSatId = SZelSatID(aeSys[iSat % 4], static_cast<uint8_t>(1 + iSat / 4));
+        stSat.ulIOD = static_cast<uint32_t>(iSat);
+        stSat.ucChannel = static_cast<uint8_t>(iSat);
+        stSat.uiNumFreq = c_iNB_SIGNALS;
+        for (int iSig = 0; iSig < c_iNB_SIGNALS; ++iSig)
+        {
+            SZelFreqObservation& rstObs = stSat.astFreqObs[iSig];
+            rstObs.ulObsFlags = 0x2F;
+            rstObs.eFrequency = static_cast<EZelFrequency>(1 + iSig);
+            rstObs.dPhase = 1.1e8 + iSat * 1000.0 + iSig * 0.125;
+            rstObs.dCode = 2.2e7 + iSat * 100.0 + iSig;
+            rstObs.dDopplerM = -1234.5 + iSat;
+            rstObs.dDopplerC = 17.25;
+            rstObs.unCNo = static_cast<uint16_t>(400 + iSat);
+            rstObs.fVelocity = 1.5f;
+        }
+        stEpoch.vecSatObs.push_back(stSat);
+    }
+    return stEpoch;
+}
+
+SZelRtmeOutEpochData MakeOutput()
+{
+    SZelRtmeOutEpochData stData;
+    for (int iIdx = 0; iIdx < c_iNB_CORRECTIONS; ++iIdx)
+    {
+        stData.AddCorrection(static_cast<EZelCorrType>(1 + iIdx % 5),
+                             SZelSatID(ZELSATSYSTEM_BEIDOU, static_cast<uint8_t>(1 + iIdx % 40)),
+                             static_cast<EZelFrequency>(1 + (iIdx / 40) % 10), (iIdx & 1) != 0, iIdx * 0.001);
+    }
+    for (int iIdx = 0; iIdx < c_iNB_SATS; ++iIdx)
+    {
+        stData.AddRangeRate(SZelSatID(ZELSATSYSTEM_GPS, static_cast<uint8_t>(1 + iIdx % 32)), iIdx * 1.5);
+    }
+    return stData;
+}
+
+// Nanoseconds of one memcpy of ulBytes, the best of several rounds.
+double MemcpyNanos(size_t ulBytes)
+{
+    std::vector<unsigned char> vecFrom(ulBytes, 0x5A);
+    std::vector<unsigned char> vecTo(ulBytes);
+    constexpr int c_iROUNDS = 20;
+    constexpr int c_iCOPIES = 2000;
+    double dBest = 1e30;
+    for (int iRound = 0; iRound < c_iROUNDS; ++iRound)
+    {
+        const auto tStart = std::chrono::steady_clock::now();
+        for (int iCopy = 0; iCopy < c_iCOPIES; ++iCopy)
+        {
+            std::memcpy(vecTo.data(), vecFrom.data(), ulBytes);
+            benchmark::ClobberMemory();
+        }
+        const auto tEnd = std::chrono::steady_clock::now();
+        const double dNanos = std::chrono::duration<double, std::nano>(tEnd - tStart).count() / c_iCOPIES;
+        dBest = dNanos < dBest ? dNanos : dBest;
+    }
+    return dBest;
+}
+
+// Runs the loop, sets bytes per second and the ratio to memcpy.
+template <class F> void RunBinary(benchmark::State& rState, size_t ulBytes, F fnCall)
+{
+    const auto tStart = std::chrono::steady_clock::now();
+    for (auto _ : rState)
+    {
+        benchmark::DoNotOptimize(fnCall());
+        benchmark::ClobberMemory();
+    }
+    const auto tEnd = std::chrono::steady_clock::now();
+    const double dNanos = std::chrono::duration<double, std::nano>(tEnd - tStart).count() /
+                          static_cast<double>(rState.iterations());
+    rState.SetBytesProcessed(static_cast<int64_t>(rState.iterations()) * static_cast<int64_t>(ulBytes));
+    rState.counters["x_memcpy"] = dNanos / MemcpyNanos(ulBytes);
+}
+
+void BM_Obs_EpochSave(benchmark::State& rState)
+{
+    const SZelObservationEpoch stEpoch = MakeEpoch();
+    std::vector<unsigned char> vecBuffer(static_cast<size_t>(stEpoch.getSize()));
+    RunBinary(rState, vecBuffer.size(),
+              [&]
+              {
+                  uint64_t ulUsed = 0;
+                  return stEpoch.saveData(vecBuffer.data(), vecBuffer.size(), &ulUsed);
+              });
+}
+BENCHMARK(BM_Obs_EpochSave);
+
+void BM_Obs_EpochLoad(benchmark::State& rState)
+{
+    const SZelObservationEpoch stEpoch = MakeEpoch();
+    std::vector<unsigned char> vecBuffer(static_cast<size_t>(stEpoch.getSize()));
+    uint64_t ulUsed = 0;
+    stEpoch.saveData(vecBuffer.data(), vecBuffer.size(), &ulUsed);
+    SZelObservationEpoch stTarget;
+    RunBinary(rState, vecBuffer.size(),
+              [&]
+              {
+                  stTarget.Reset(); // keeps the allocation
+                  return stTarget.loadData(vecBuffer.data(), vecBuffer.size(), &ulUsed);
+              });
+}
+BENCHMARK(BM_Obs_EpochLoad);
+
+void BM_Obs_EpochMemcpy(benchmark::State& rState)
+{
+    const size_t ulBytes = static_cast<size_t>(MakeEpoch().getSize());
+    std::vector<unsigned char> vecFrom(ulBytes, 0x5A);
+    std::vector<unsigned char> vecTo(ulBytes);
+    for (auto _ : rState)
+    {
+        std::memcpy(vecTo.data(), vecFrom.data(), ulBytes);
+        benchmark::ClobberMemory();
+    }
+    rState.SetBytesProcessed(static_cast<int64_t>(rState.iterations()) * static_cast<int64_t>(ulBytes));
+}
+BENCHMARK(BM_Obs_EpochMemcpy);
+
+void BM_Obs_OutputSave(benchmark::State& rState)
+{
+    const SZelRtmeOutEpochData stData = MakeOutput();
+    std::vector<unsigned char> vecBuffer(static_cast<size_t>(stData.getSize()));
+    RunBinary(rState, vecBuffer.size(),
+              [&]
+              {
+                  uint64_t ulUsed = 0;
+                  return stData.saveData(vecBuffer.data(), vecBuffer.size(), &ulUsed);
+              });
+}
+BENCHMARK(BM_Obs_OutputSave);
+
+void BM_Obs_OutputLoad(benchmark::State& rState)
+{
+    const SZelRtmeOutEpochData stData = MakeOutput();
+    std::vector<unsigned char> vecBuffer(static_cast<size_t>(stData.getSize()));
+    uint64_t ulUsed = 0;
+    stData.saveData(vecBuffer.data(), vecBuffer.size(), &ulUsed);
+    SZelRtmeOutEpochData stTarget;
+    RunBinary(rState, vecBuffer.size(),
+              [&]
+              {
+                  stTarget.Reset(); // the reader adds to the maps
+                  return stTarget.loadData(vecBuffer.data(), vecBuffer.size(), &ulUsed);
+              });
+}
+BENCHMARK(BM_Obs_OutputLoad);
+
+void BM_Obs_OutputMemcpy(benchmark::State& rState)
+{
+    const size_t ulBytes = static_cast<size_t>(MakeOutput().getSize());
+    std::vector<unsigned char> vecFrom(ulBytes, 0x5A);
+    std::vector<unsigned char> vecTo(ulBytes);
+    for (auto _ : rState)
+    {
+        std::memcpy(vecTo.data(), vecFrom.data(), ulBytes);
+        benchmark::ClobberMemory();
+    }
+    rState.SetBytesProcessed(static_cast<int64_t>(rState.iterations()) * static_cast<int64_t>(ulBytes));
+}
+BENCHMARK(BM_Obs_OutputMemcpy);
+
+// One epoch is one line of text.
+void BM_Obs_EpochTextWrite(benchmark::State& rState)
+{
+    const SZelObservationEpoch stEpoch = MakeEpoch();
+    std::ostringstream oss;
+    oss << std::setprecision(17);
+    for (auto _ : rState)
+    {
+        oss.str(std::string());
+        oss << stEpoch << '\n';
+        benchmark::DoNotOptimize(oss);
+    }
+    rState.SetItemsProcessed(static_cast<int64_t>(rState.iterations()));
+    rState.SetLabel("lines");
+}
+BENCHMARK(BM_Obs_EpochTextWrite);
+
+void BM_Obs_EpochTextRead(benchmark::State& rState)
+{
+    std::ostringstream oss;
+    oss << std::setprecision(17) << MakeEpoch();
+    const std::string strLine = oss.str();
+    SZelObservationEpoch stTarget;
+    for (auto _ : rState)
+    {
+        std::istringstream iss(strLine);
+        iss >> stTarget;
+        benchmark::DoNotOptimize(stTarget);
+    }
+    rState.SetItemsProcessed(static_cast<int64_t>(rState.iterations()));
+    rState.SetLabel("lines");
+}
+BENCHMARK(BM_Obs_EpochTextRead);
+
+} // namespace
