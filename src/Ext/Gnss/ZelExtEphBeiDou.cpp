@@ -141,7 +141,7 @@ bool ZELX_SAT_EPHEMERIS_BEIDOU::saveData(unsigned char* pBuffer, uint64_t uiBuff
     }
     ZelIo::PutAt(pBuffer, 0, c_ucImageVersion);
     ZelIo::PutAt(pBuffer, 1, uiSvId);
-    ZelIo::PutBoolAt(pBuffer, 2, bValid);
+    ZelIo::PutAt(pBuffer, 2, bValid);
     ZelIo::PutAt(pBuffer, 3, ulAux1);
     ZelIo::PutAt(pBuffer, 7, unGPSWeek);
     ZelIo::PutAt(pBuffer, 9, ulTowMs);
@@ -171,24 +171,13 @@ bool ZELX_SAT_EPHEMERIS_BEIDOU::saveData(unsigned char* pBuffer, uint64_t uiBuff
 
 bool ZELX_SAT_EPHEMERIS_BEIDOU::loadData(const unsigned char* pBuffer, uint64_t uiBufferLength)
 {
-    // Buffer, then version, then length. An empty buffer has no version
-    // byte to look at: it fails as a short one.
-    if (pBuffer == nullptr || uiBufferLength == 0)
-    {
-        ZEL_ASSERT(false);
-        return false;
-    }
-    if (pBuffer[0] != c_ucImageVersion)
-    {
-        ZEL_REPORT("loadData(ZELX_SAT_EPHEMERIS_BEIDOU) received old version.");
-        return false;
-    }
-    if (!ZelIo::ExtFits(pBuffer, uiBufferLength, c_ulImageSize))
+    if (!ZelIo::ExtVersionGate(pBuffer, uiBufferLength, c_ucImageVersion,
+                               "loadData(ZELX_SAT_EPHEMERIS_BEIDOU) received old version.", c_ulImageSize))
     {
         return false;
     }
     ZelIo::GetAt(pBuffer, 1, uiSvId);
-    bValid = ZelIo::GetBoolAt(pBuffer, 2);
+    ZelIo::GetAt(pBuffer, 2, bValid);
     ZelIo::GetAt(pBuffer, 3, ulAux1);
     ZelIo::GetAt(pBuffer, 7, unGPSWeek);
     ZelIo::GetAt(pBuffer, 9, ulTowMs);

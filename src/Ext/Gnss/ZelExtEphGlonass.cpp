@@ -120,8 +120,8 @@ bool ZELX_SAT_EPHEMERIS_GLONASS::saveData(unsigned char* pBuffer, uint64_t uiBuf
     ZelIo::PutAt(pBuffer, 1, ucAux1);
     ZelIo::PutAt(pBuffer, 2, unAux2);
     ZelIo::PutAt(pBuffer, 4, ulAux3);
-    ZelIo::PutBoolAt(pBuffer, 8, bValid);
-    ZelIo::PutBoolAt(pBuffer, 9, bMType);
+    ZelIo::PutAt(pBuffer, 8, bValid);
+    ZelIo::PutAt(pBuffer, 9, bMType);
     ZelIo::PutAt(pBuffer, 10, unAux4);
     ZelIo::PutAt(pBuffer, 12, unGPSWeek);
     ZelIo::PutAt(pBuffer, 14, ulToeMs);
@@ -142,8 +142,8 @@ bool ZELX_SAT_EPHEMERIS_GLONASS::loadData(const unsigned char* pBuffer, uint64_t
     ZelIo::GetAt(pBuffer, 1, ucAux1);
     ZelIo::GetAt(pBuffer, 2, unAux2);
     ZelIo::GetAt(pBuffer, 4, ulAux3);
-    bValid = ZelIo::GetBoolAt(pBuffer, 8);
-    bMType = ZelIo::GetBoolAt(pBuffer, 9);
+    ZelIo::GetAt(pBuffer, 8, bValid);
+    ZelIo::GetAt(pBuffer, 9, bMType);
     ZelIo::GetAt(pBuffer, 10, unAux4);
     ZelIo::GetAt(pBuffer, 12, unGPSWeek);
     ZelIo::GetAt(pBuffer, 14, ulToeMs);

@@ -236,7 +236,7 @@ bool ZELX_SAT_EPHEMERIS::saveData(unsigned char* pBuffer, uint64_t uiBufferLengt
         return false;
     }
     ZelIo::PutAt(pBuffer, 0, uiSvId);
-    ZelIo::PutBoolAt(pBuffer, 1, bValid);
+    ZelIo::PutAt(pBuffer, 1, bValid);
     ZelIo::PutAt(pBuffer, 2, ulTransmissionTime);
     ZelIo::PutAt(pBuffer, 6, unGPSWeek);
     ZelIo::PutAt(pBuffer, 8, unUraIndex);
@@ -263,7 +263,7 @@ bool ZELX_SAT_EPHEMERIS::loadData(const unsigned char* pBuffer, uint64_t uiBuffe
         return false;
     }
     ZelIo::GetAt(pBuffer, 0, uiSvId);
-    bValid = ZelIo::GetBoolAt(pBuffer, 1);
+    ZelIo::GetAt(pBuffer, 1, bValid);
     ZelIo::GetAt(pBuffer, 2, ulTransmissionTime);
     ZelIo::GetAt(pBuffer, 6, unGPSWeek);
     ZelIo::GetAt(pBuffer, 8, unUraIndex);

@@ -14,16 +14,24 @@ namespace ZELN
 namespace ZelIo
 {
 
-// A bool travels as one byte. Any byte other than 0 reads as true, so that a
-// forged image never leaves an invalid value in a bool.
-inline void PutBoolAt(unsigned char* pBuffer, uint64_t ulOffset, bool bValue)
+// The gate of a versioned image whose version is looked at before its
+// length: buffer, then version (refused with the class's own text), then
+// length. An empty buffer has no version byte to look at: it fails as a
+// short one.
+inline bool ExtVersionGate(const unsigned char* pBuffer, uint64_t uiBufferLength, uint8_t ucVersion,
+                           const char* szOldVersion, uint64_t ulImageSize)
 {
-    pBuffer[ulOffset] = bValue ? 1 : 0;
-}
-
-inline bool GetBoolAt(const unsigned char* pBuffer, uint64_t ulOffset)
-{
-    return pBuffer[ulOffset] != 0;
+    if (pBuffer == nullptr || uiBufferLength == 0)
+    {
+        ZEL_ASSERT(false);
+        return false;
+    }
+    if (pBuffer[0] != ucVersion)
+    {
+        ZEL_REPORT(szOldVersion);
+        return false;
+    }
+    return ExtFits(pBuffer, uiBufferLength, ulImageSize);
 }
 
 // A time in its own 16-byte packed form, through its own writer and reader

@@ -143,7 +143,7 @@ bool ZELX_SAT_EPHEMERIS_NAVIC::saveData(unsigned char* pBuffer, uint64_t uiBuffe
     ZelIo::PutAt(pBuffer, 0, c_ucImageVersion);
     ZelIo::PutAt(pBuffer, 1, ulPrn);
     ZelIo::PutAt(pBuffer, 5, ulAux1);
-    ZelIo::PutBoolAt(pBuffer, 9, bValid);
+    ZelIo::PutAt(pBuffer, 9, bValid);
     ZelIo::PutArrayAt(pBuffer, 10, adClock);
     ZelIo::PutAt(pBuffer, 34, fUra);
     if (!ZelIo::PutTimeAt(pBuffer, uiBufferLength, 38, stToc))
@@ -186,7 +186,7 @@ bool ZELX_SAT_EPHEMERIS_NAVIC::loadData(const unsigned char* pBuffer, uint64_t u
     }
     ZelIo::GetAt(pBuffer, 1, ulPrn);
     ZelIo::GetAt(pBuffer, 5, ulAux1);
-    bValid = ZelIo::GetBoolAt(pBuffer, 9);
+    ZelIo::GetAt(pBuffer, 9, bValid);
     ZelIo::GetArrayAt(pBuffer, 10, adClock);
     ZelIo::GetAt(pBuffer, 34, fUra);
     if (!ZelIo::GetTimeAt(pBuffer, uiBufferLength, 38, stToc))

@@ -89,19 +89,8 @@ bool ZELX_SAT_EPHEMERIS_QZSS::saveData(unsigned char* pBuffer, uint64_t uiBuffer
 
 bool ZELX_SAT_EPHEMERIS_QZSS::loadData(const unsigned char* pBuffer, uint64_t uiBufferLength)
 {
-    // Buffer, then version, then length. An empty buffer has no version
-    // byte to look at: it fails as a short one.
-    if (pBuffer == nullptr || uiBufferLength == 0)
-    {
-        ZEL_ASSERT(false);
-        return false;
-    }
-    if (pBuffer[0] != c_ucImageVersion)
-    {
-        ZEL_REPORT("loadData(ZELX_SAT_EPHEMERIS_QZSS) received old version.");
-        return false;
-    }
-    if (!ZelIo::ExtFits(pBuffer, uiBufferLength, c_ulImageSize))
+    if (!ZelIo::ExtVersionGate(pBuffer, uiBufferLength, c_ucImageVersion,
+                               "loadData(ZELX_SAT_EPHEMERIS_QZSS) received old version.", c_ulImageSize))
     {
         return false;
     }
