@@ -147,35 +147,29 @@ void SZelCoordinateTriplet::Reset()
 }
 
 // Type at 0 (32 bits), the coordinates at 4, 12 and 20, unaligned.
+namespace
+{
+// The fields of the image, in order, for both directions.
+const auto VisitTripletFields = [](auto& io, auto& r)
+{
+    io.template RawAs<int32_t>(r.ecoordinatesystem);
+    io.Raw(r.dCoord1);
+    io.Raw(r.dCoord2);
+    io.Raw(r.dCoord3);
+    return true;
+};
+} // namespace
+
 bool SZelCoordinateTriplet::saveData(unsigned char* pBuffer, uint64_t uiBufferLength,
                                      uint64_t* pulOffset) const
 {
-    ZelIo::CBinWriter stOut(pBuffer, uiBufferLength, pulOffset);
-    if (!stOut.BeginLeaf(getSize()))
-    {
-        return false;
-    }
-    stOut.RawAs<int32_t>(ecoordinatesystem);
-    stOut.Raw(dCoord1);
-    stOut.Raw(dCoord2);
-    stOut.Raw(dCoord3);
-    return stOut.End(getSize());
+    return ZelIo::SaveLeaf(*this, pBuffer, uiBufferLength, pulOffset, VisitTripletFields);
 }
 
-// Any 32-bit type value is taken as it stands.
 bool SZelCoordinateTriplet::loadData(const unsigned char* pBuffer, uint64_t uiBufferLength,
                                      uint64_t* pulOffset)
 {
-    ZelIo::CBinReader stIn(pBuffer, uiBufferLength, pulOffset);
-    if (!stIn.BeginLeaf(getSize()))
-    {
-        return false;
-    }
-    stIn.RawAs<int32_t>(ecoordinatesystem);
-    stIn.Raw(dCoord1);
-    stIn.Raw(dCoord2);
-    stIn.Raw(dCoord3);
-    return stIn.End(getSize());
+    return ZelIo::LoadLeaf(*this, pBuffer, uiBufferLength, pulOffset, VisitTripletFields);
 }
 
 bool operator==(const SZelCoordinateTriplet& a, const SZelCoordinateTriplet& b)

@@ -15,28 +15,26 @@ ZelGlonassFrequencies::ZelGlonassFrequencies()
     }
 }
 
+namespace
+{
+// The fields of the image, in order, for both directions.
+const auto VisitChannelFields = [](auto& io, auto& r)
+{
+    io.Raw(r.acChannels);
+    return true;
+};
+} // namespace
+
 bool ZelGlonassFrequencies::saveData(unsigned char* pBuffer, uint64_t uiBufferLength,
                                      uint64_t* pulOffset) const
 {
-    ZelIo::CBinWriter stOut(pBuffer, uiBufferLength, pulOffset);
-    if (!stOut.BeginLeaf(getSize()))
-    {
-        return false;
-    }
-    stOut.Raw(acChannels);
-    return stOut.End(getSize());
+    return ZelIo::SaveLeaf(*this, pBuffer, uiBufferLength, pulOffset, VisitChannelFields);
 }
 
 bool ZelGlonassFrequencies::loadData(const unsigned char* pBuffer, uint64_t uiBufferLength,
                                      uint64_t* pulOffset)
 {
-    ZelIo::CBinReader stIn(pBuffer, uiBufferLength, pulOffset);
-    if (!stIn.BeginLeaf(getSize()))
-    {
-        return false;
-    }
-    stIn.Raw(acChannels);
-    return stIn.End(getSize());
+    return ZelIo::LoadLeaf(*this, pBuffer, uiBufferLength, pulOffset, VisitChannelFields);
 }
 
 bool operator==(const ZelGlonassFrequencies& a, const ZelGlonassFrequencies& b)

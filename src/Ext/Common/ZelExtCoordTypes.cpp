@@ -18,30 +18,26 @@ bool AreCloseRel(double a, double b)
 
 } // namespace
 
+namespace
+{
+// The fields of the image, in order, for both directions.
+const auto VisitVectorFields = [](auto& io, auto& r)
+{
+    io.Raw(r.dX);
+    io.Raw(r.dY);
+    io.Raw(r.dZ);
+    return true;
+};
+} // namespace
+
 bool SZelVector3d::saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const
 {
-    ZelIo::CBinWriter stOut(pBuffer, uiBufferLength, pulOffset);
-    if (!stOut.BeginLeaf(getSize()))
-    {
-        return false;
-    }
-    stOut.Raw(dX);
-    stOut.Raw(dY);
-    stOut.Raw(dZ);
-    return stOut.End(getSize());
+    return ZelIo::SaveLeaf(*this, pBuffer, uiBufferLength, pulOffset, VisitVectorFields);
 }
 
 bool SZelVector3d::loadData(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset)
 {
-    ZelIo::CBinReader stIn(pBuffer, uiBufferLength, pulOffset);
-    if (!stIn.BeginLeaf(getSize()))
-    {
-        return false;
-    }
-    stIn.Raw(dX);
-    stIn.Raw(dY);
-    stIn.Raw(dZ);
-    return stIn.End(getSize());
+    return ZelIo::LoadLeaf(*this, pBuffer, uiBufferLength, pulOffset, VisitVectorFields);
 }
 
 bool operator==(const SZelVector3d& a, const SZelVector3d& b)

@@ -9,40 +9,28 @@ namespace ZELN
 
 // ------------------------------------------------------------------ SZelMasterCoordinate
 
+namespace
+{
+// The fields of the image, in order, for both directions.
+const auto VisitMasterFields = [](auto& io, auto& r)
+{
+    io.template RawAs<int32_t>(r.eCooSys);
+    io.Raw(r.usStnId);
+    io.Raw(r.usReserved);
+    return io.Record(r.stMstCoo);
+};
+} // namespace
+
 bool SZelMasterCoordinate::saveData(unsigned char* pBuffer, uint64_t uiBufferLength,
                                     uint64_t* pulOffset) const
 {
-    ZelIo::CBinWriter stOut(pBuffer, uiBufferLength, pulOffset);
-    if (!stOut.Begin(getSize()))
-    {
-        return false;
-    }
-    stOut.RawAs<int32_t>(eCooSys);
-    stOut.Raw(usStnId);
-    stOut.Raw(usReserved);
-    if (!stOut.Record(stMstCoo))
-    {
-        return false;
-    }
-    return stOut.End(getSize());
+    return ZelIo::SaveFixed(*this, pBuffer, uiBufferLength, pulOffset, VisitMasterFields);
 }
 
 bool SZelMasterCoordinate::loadData(const unsigned char* pBuffer, uint64_t uiBufferLength,
                                     uint64_t* pulOffset)
 {
-    ZelIo::CBinReader stIn(pBuffer, uiBufferLength, pulOffset);
-    if (!stIn.Begin(getSize()))
-    {
-        return false;
-    }
-    stIn.RawAs<int32_t>(eCooSys);
-    stIn.Raw(usStnId);
-    stIn.Raw(usReserved);
-    if (!stIn.Record(stMstCoo))
-    {
-        return false;
-    }
-    return stIn.End(getSize());
+    return ZelIo::LoadFixed(*this, pBuffer, uiBufferLength, pulOffset, VisitMasterFields);
 }
 
 bool operator==(const SZelMasterCoordinate& a, const SZelMasterCoordinate& b)
@@ -85,30 +73,27 @@ bool AreCloseRelF(float a, float b)
 
 } // namespace
 
+namespace
+{
+// The fields of the image, in order, for both directions.
+const auto VisitOffsetFields = [](auto& io, auto& r)
+{
+    io.Raw(r.fHrzOffsE);
+    io.Raw(r.fHrzOffsN);
+    return true;
+};
+} // namespace
+
 bool SZelHorizontalOffset::saveData(unsigned char* pBuffer, uint64_t uiBufferLength,
                                     uint64_t* pulOffset) const
 {
-    ZelIo::CBinWriter stOut(pBuffer, uiBufferLength, pulOffset);
-    if (!stOut.BeginLeaf(getSize()))
-    {
-        return false;
-    }
-    stOut.Raw(fHrzOffsE);
-    stOut.Raw(fHrzOffsN);
-    return stOut.End(getSize());
+    return ZelIo::SaveLeaf(*this, pBuffer, uiBufferLength, pulOffset, VisitOffsetFields);
 }
 
 bool SZelHorizontalOffset::loadData(const unsigned char* pBuffer, uint64_t uiBufferLength,
                                     uint64_t* pulOffset)
 {
-    ZelIo::CBinReader stIn(pBuffer, uiBufferLength, pulOffset);
-    if (!stIn.BeginLeaf(getSize()))
-    {
-        return false;
-    }
-    stIn.Raw(fHrzOffsE);
-    stIn.Raw(fHrzOffsN);
-    return stIn.End(getSize());
+    return ZelIo::LoadLeaf(*this, pBuffer, uiBufferLength, pulOffset, VisitOffsetFields);
 }
 
 bool operator==(const SZelHorizontalOffset& a, const SZelHorizontalOffset& b)

@@ -105,6 +105,9 @@ public:
         *m_pulOffset += ulSize;
     }
 
+    // Reserved bytes of a layout: zero on the way out, passed over on the way in.
+    void Reserved(uint64_t ulSize) { Fill(ulSize); }
+
     // Filling bytes, written as zero.
     void Fill(uint64_t ulSize)
     {
@@ -280,6 +283,8 @@ public:
         return true;
     }
 
+    bool Reserved(uint64_t ulSize) { return Skip(ulSize); }
+
     // Filling bytes, passed over.
     bool Skip(uint64_t ulSize)
     {
@@ -378,6 +383,80 @@ private:
     uint64_t* m_pulOffset;
     bool m_bOverrun = false;
 };
+
+// A fixed-size record states its fields once, for both directions, in a
+// visitor: either a static member
+//     template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
+// or a generic lambda handed to the calls below, with a body such as
+//     io.Raw(r.field1); io.template RawAs<int32_t>(r.field2); io.Reserved(3); return true;
+// (a nested record: `if (!io.Record(r.nested)) return false;`). Its saveData
+// and loadData are then one call each. A leaf clears the count before the
+// bounds test, any other record after it; the count is compared with the
+// size at the end.
+template <class R, class V>
+inline bool SaveLeaf(const R& rRecord, unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset,
+                     V fnVisit)
+{
+    CBinWriter stOut(pBuffer, uiBufferLength, pulOffset);
+    return stOut.BeginLeaf(rRecord.getSize()) && fnVisit(stOut, rRecord) && stOut.End(rRecord.getSize());
+}
+
+template <class R, class V>
+inline bool LoadLeaf(R& rRecord, const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset,
+                     V fnVisit)
+{
+    CBinReader stIn(pBuffer, uiBufferLength, pulOffset);
+    return stIn.BeginLeaf(rRecord.getSize()) && fnVisit(stIn, rRecord) && stIn.End(rRecord.getSize());
+}
+
+template <class R, class V>
+inline bool SaveFixed(const R& rRecord, unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset,
+                      V fnVisit)
+{
+    CBinWriter stOut(pBuffer, uiBufferLength, pulOffset);
+    return stOut.Begin(rRecord.getSize()) && fnVisit(stOut, rRecord) && stOut.End(rRecord.getSize());
+}
+
+template <class R, class V>
+inline bool LoadFixed(R& rRecord, const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset,
+                      V fnVisit)
+{
+    CBinReader stIn(pBuffer, uiBufferLength, pulOffset);
+    return stIn.Begin(rRecord.getSize()) && fnVisit(stIn, rRecord) && stIn.End(rRecord.getSize());
+}
+
+// The same with the record's own static VisitFields.
+struct SMemberVisitor
+{
+    template <class IO, class R> bool operator()(IO& io, R& r) const
+    {
+        return std::remove_const_t<R>::VisitFields(io, r);
+    }
+};
+
+template <class R>
+inline bool SaveLeaf(const R& rRecord, unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset)
+{
+    return SaveLeaf(rRecord, pBuffer, uiBufferLength, pulOffset, SMemberVisitor());
+}
+
+template <class R>
+inline bool LoadLeaf(R& rRecord, const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset)
+{
+    return LoadLeaf(rRecord, pBuffer, uiBufferLength, pulOffset, SMemberVisitor());
+}
+
+template <class R>
+inline bool SaveFixed(const R& rRecord, unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset)
+{
+    return SaveFixed(rRecord, pBuffer, uiBufferLength, pulOffset, SMemberVisitor());
+}
+
+template <class R>
+inline bool LoadFixed(R& rRecord, const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset)
+{
+    return LoadFixed(rRecord, pBuffer, uiBufferLength, pulOffset, SMemberVisitor());
+}
 
 // ---------------------------------------------------------------------------
 // Binary form, Ext family: fields at fixed offsets of an image whose first

@@ -248,29 +248,20 @@ struct ZELTYPES_API SZelSatID
     // System in 4 bytes, number in 1, then 3 filling bytes: written as zero,
     // passed over by the reader.
     uint64_t getSize() const { return 8; }
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
+    {
+        io.Raw(r.eSatSystem);
+        io.Raw(r.uiSatNumber);
+        io.Reserved(3);
+        return true;
+    }
     bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const
     {
-        ZelIo::CBinWriter stOut(pBuffer, uiBufferLength, pulOffset);
-        if (!stOut.BeginLeaf(getSize()))
-        {
-            return false;
-        }
-        stOut.Raw(eSatSystem);
-        stOut.Raw(uiSatNumber);
-        stOut.Fill(3);
-        return stOut.End(getSize());
+        return ZelIo::SaveLeaf(*this, pBuffer, uiBufferLength, pulOffset);
     }
     bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset)
     {
-        ZelIo::CBinReader stIn(pBuffer, uiBufferLength, pulOffset);
-        if (!stIn.BeginLeaf(getSize()))
-        {
-            return false;
-        }
-        stIn.Raw(eSatSystem);
-        stIn.Raw(uiSatNumber);
-        stIn.Skip(3);
-        return stIn.End(getSize());
+        return ZelIo::LoadLeaf(*this, pBuffer, uiBufferLength, pulOffset);
     }
 };
 
@@ -307,27 +298,19 @@ struct ZELTYPES_API SZelFrqTMdID
     }
 
     uint64_t getSize() const { return 8; }
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
+    {
+        io.Raw(r.eFrqGrp);
+        io.Raw(r.eTrackMode);
+        return true;
+    }
     bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const
     {
-        ZelIo::CBinWriter stOut(pBuffer, uiBufferLength, pulOffset);
-        if (!stOut.BeginLeaf(getSize()))
-        {
-            return false;
-        }
-        stOut.Raw(eFrqGrp);
-        stOut.Raw(eTrackMode);
-        return stOut.End(getSize());
+        return ZelIo::SaveLeaf(*this, pBuffer, uiBufferLength, pulOffset);
     }
     bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset)
     {
-        ZelIo::CBinReader stIn(pBuffer, uiBufferLength, pulOffset);
-        if (!stIn.BeginLeaf(getSize()))
-        {
-            return false;
-        }
-        stIn.Raw(eFrqGrp);
-        stIn.Raw(eTrackMode);
-        return stIn.End(getSize());
+        return ZelIo::LoadLeaf(*this, pBuffer, uiBufferLength, pulOffset);
     }
 };
 
@@ -360,25 +343,22 @@ struct ZELTYPES_API SZelSatFrqID
     bool isValid() const { return stSatID.isValid() && eFrqGrp != ZELFREQUENCY_GROUP_NONE; }
 
     uint64_t getSize() const { return 12; }
-    bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
     {
-        ZelIo::CBinWriter stOut(pBuffer, uiBufferLength, pulOffset);
-        if (!stOut.Begin(getSize()) || !stOut.Record(stSatID))
+        if (!io.Record(r.stSatID))
         {
             return false;
         }
-        stOut.Raw(eFrqGrp);
-        return stOut.End(getSize());
+        io.Raw(r.eFrqGrp);
+        return true;
+    }
+    bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const
+    {
+        return ZelIo::SaveFixed(*this, pBuffer, uiBufferLength, pulOffset);
     }
     bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset)
     {
-        ZelIo::CBinReader stIn(pBuffer, uiBufferLength, pulOffset);
-        if (!stIn.Begin(getSize()) || !stIn.Record(stSatID))
-        {
-            return false;
-        }
-        stIn.Raw(eFrqGrp);
-        return stIn.End(getSize());
+        return ZelIo::LoadFixed(*this, pBuffer, uiBufferLength, pulOffset);
     }
 };
 
@@ -415,27 +395,19 @@ struct ZELTYPES_API SZelSysFrqID
     }
 
     uint64_t getSize() const { return 8; }
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
+    {
+        io.Raw(r.eSatSystem);
+        io.Raw(r.eFrqGrp);
+        return true;
+    }
     bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const
     {
-        ZelIo::CBinWriter stOut(pBuffer, uiBufferLength, pulOffset);
-        if (!stOut.BeginLeaf(getSize()))
-        {
-            return false;
-        }
-        stOut.Raw(eSatSystem);
-        stOut.Raw(eFrqGrp);
-        return stOut.End(getSize());
+        return ZelIo::SaveLeaf(*this, pBuffer, uiBufferLength, pulOffset);
     }
     bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset)
     {
-        ZelIo::CBinReader stIn(pBuffer, uiBufferLength, pulOffset);
-        if (!stIn.BeginLeaf(getSize()))
-        {
-            return false;
-        }
-        stIn.Raw(eSatSystem);
-        stIn.Raw(eFrqGrp);
-        return stIn.End(getSize());
+        return ZelIo::LoadLeaf(*this, pBuffer, uiBufferLength, pulOffset);
     }
 };
 
@@ -474,29 +446,20 @@ struct ZELTYPES_API SZelSysFrqTMdGroupID
     bool isValid() const;
 
     uint64_t getSize() const { return 12; }
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
+    {
+        io.Raw(r.eSatSystem);
+        io.Raw(r.eFrqGrp);
+        io.Raw(r.ebfTMdGrps);
+        return true;
+    }
     bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const
     {
-        ZelIo::CBinWriter stOut(pBuffer, uiBufferLength, pulOffset);
-        if (!stOut.BeginLeaf(getSize()))
-        {
-            return false;
-        }
-        stOut.Raw(eSatSystem);
-        stOut.Raw(eFrqGrp);
-        stOut.Raw(ebfTMdGrps);
-        return stOut.End(getSize());
+        return ZelIo::SaveLeaf(*this, pBuffer, uiBufferLength, pulOffset);
     }
     bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset)
     {
-        ZelIo::CBinReader stIn(pBuffer, uiBufferLength, pulOffset);
-        if (!stIn.BeginLeaf(getSize()))
-        {
-            return false;
-        }
-        stIn.Raw(eSatSystem);
-        stIn.Raw(eFrqGrp);
-        stIn.Raw(ebfTMdGrps);
-        return stIn.End(getSize());
+        return ZelIo::LoadLeaf(*this, pBuffer, uiBufferLength, pulOffset);
     }
 };
 
@@ -552,27 +515,23 @@ struct ZELTYPES_API SZelSatFrqTMdGroupID
     EZelTrackMode ToTrackMode() const;
 
     uint64_t getSize() const { return 16; }
-    bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
     {
-        ZelIo::CBinWriter stOut(pBuffer, uiBufferLength, pulOffset);
-        if (!stOut.Begin(getSize()) || !stOut.Record(stSatID))
+        if (!io.Record(r.stSatID))
         {
             return false;
         }
-        stOut.Raw(eFrqGrp);
-        stOut.Raw(ebfTMdGrps);
-        return stOut.End(getSize());
+        io.Raw(r.eFrqGrp);
+        io.Raw(r.ebfTMdGrps);
+        return true;
+    }
+    bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const
+    {
+        return ZelIo::SaveFixed(*this, pBuffer, uiBufferLength, pulOffset);
     }
     bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset)
     {
-        ZelIo::CBinReader stIn(pBuffer, uiBufferLength, pulOffset);
-        if (!stIn.Begin(getSize()) || !stIn.Record(stSatID))
-        {
-            return false;
-        }
-        stIn.Raw(eFrqGrp);
-        stIn.Raw(ebfTMdGrps);
-        return stIn.End(getSize());
+        return ZelIo::LoadFixed(*this, pBuffer, uiBufferLength, pulOffset);
     }
 };
 

@@ -826,31 +826,23 @@ struct SMjdTime
     uint64_t getSize() const { return 16; }
 
     // Day at 0, milliseconds at 4 (no padding), accuracy at 12.
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
+    {
+        io.Raw(r.m_lMjdDay);
+        io.Raw(r.m_dMjdFractMilliseconds);
+        io.template RawAs<int32_t>(r.m_eAccuracy);
+        return true;
+    }
+
     bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const
     {
-        ZelIo::CBinWriter stOut(pBuffer, uiBufferLength, pulOffset);
-        if (!stOut.BeginLeaf(getSize()))
-        {
-            return false;
-        }
-        stOut.Raw(m_lMjdDay);
-        stOut.Raw(m_dMjdFractMilliseconds);
-        stOut.RawAs<int32_t>(m_eAccuracy);
-        return stOut.End(getSize());
+        return ZelIo::SaveLeaf(*this, pBuffer, uiBufferLength, pulOffset);
     }
 
     // Reads the fields as they stand: an out-of-range day comes in unchecked.
     bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset)
     {
-        ZelIo::CBinReader stIn(pBuffer, uiBufferLength, pulOffset);
-        if (!stIn.BeginLeaf(getSize()))
-        {
-            return false;
-        }
-        stIn.Raw(m_lMjdDay);
-        stIn.Raw(m_dMjdFractMilliseconds);
-        stIn.RawAs<int32_t>(m_eAccuracy);
-        return stIn.End(getSize());
+        return ZelIo::LoadLeaf(*this, pBuffer, uiBufferLength, pulOffset);
     }
 
     // ---------------------------------------------------------------- text forms
