@@ -688,8 +688,11 @@ TEST(FrequencyMgr, SystemFrequencyRatio)
     EXPECT_EQ(-1.0, CZelFrequencyMgr::GetFrequencyRatio(ZELSATSYSTEM_NAVIC, 4, 4));
     EXPECT_EQ(-1.0, CZelFrequencyMgr::GetFrequencyRatio(ZELSATSYSTEM_LOCATA, 1, 2));
     EXPECT_EQ(-1.0, CZelFrequencyMgr::GetFrequencyRatio(ZELSATSYSTEM_BEIDOU, 1, 32)); // no B group 6
-    EXPECT_EQ(5u, stRec.Count("false"));
-    EXPECT_EQ(5u, stRec.Count());
+    // GLONASS knows the two ratios of groups 1 and 2 only, not a group with itself.
+    EXPECT_EQ(-1.0, CZelFrequencyMgr::GetFrequencyRatio(ZELSATSYSTEM_GLONASS, 1, 1));
+    EXPECT_EQ(-1.0, CZelFrequencyMgr::GetFrequencyRatio(ZELSATSYSTEM_GLONASS, 2, 2));
+    EXPECT_EQ(7u, stRec.Count("false"));
+    EXPECT_EQ(7u, stRec.Count());
 }
 
 TEST(FrequencyMgr, IonoFreeAndNarrowLaneFactors)

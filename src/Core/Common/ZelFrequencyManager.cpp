@@ -520,10 +520,6 @@ double CZelFrequencyMgr::GetFrequencyRatio(EZelSatSystem eSys, uint32_t ebfFrq1,
         {
             return c_dGLONASS_RATIO_G2_G1;
         }
-        if (iIdx1 == iIdx2 && (iIdx1 == ZELFREQUENCY_GROUP_1 || iIdx1 == ZELFREQUENCY_GROUP_2))
-        {
-            return 1.0;
-        }
         ZEL_ASSERT(false);
         return -1.0;
     default:
