@@ -1037,6 +1037,26 @@ double GetIonoFreeCoef2InMetres(const SZelSatID& rSatID)
     }
 }
 
+// f(reference group) / f(group) of a GLONASS satellite over one table
+// snapshot: the wavelengths the other way round. 0.0 while the channel is
+// not known.
+static double GlonassRatioTo(const SZelSatID& rSatID, int iGrp, EZelFrequencyGroup eRefGroup)
+{
+    ZEL_ASSERT(rSatID.isValid());
+    boost::shared_ptr<const CZelFrequencyTable> pTable;
+    if (!rSatID.isValid() || !GetFrequencyMgr().GetFrequencyTable(pTable))
+    {
+        return 0.0; // no such slot in the table
+    }
+    const double dWL = GlonassWavelength(*pTable, rSatID, eRefGroup);
+    ZEL_ASSERT(dWL > 0.0);
+    if (!(dWL > 0.0))
+    {
+        return 0.0; // the channel is not known (yet)
+    }
+    return GlonassWavelength(*pTable, rSatID, iGrp) / dWL;
+}
+
 double GetL2FrequencyRatio(const SZelSatID& rSatID, uint32_t ebfFrq)
 {
     const int iGrp = FromFrqGroupBit(ebfFrq);
@@ -1049,26 +1069,11 @@ double GetL2FrequencyRatio(const SZelSatID& rSatID, uint32_t ebfFrq)
     case ZELSATSYSTEM_BEIDOU:
         return ByGroup(c_adBDS_L2_RATIO, c_adGPS_L2_RATIO, iGrp);
     case ZELSATSYSTEM_GLONASS:
-    {
         if (iGrp < ZELFREQUENCY_GROUP_1 || iGrp > ZELFREQUENCY_GROUP_3)
         {
             return LackingPair(IsGroupIndex(iGrp) ? c_adGPS_L2_RATIO[iGrp] : 0.0);
         }
-        ZEL_ASSERT(rSatID.isValid());
-        boost::shared_ptr<const CZelFrequencyTable> pTable;
-        if (!rSatID.isValid() || !GetFrequencyMgr().GetFrequencyTable(pTable))
-        {
-            return 0.0; // no such slot in the table
-        }
-        // f2 / f over one table: the wavelengths the other way round.
-        const double dWL = GlonassWavelength(*pTable, rSatID, ZELFREQUENCY_GROUP_2);
-        ZEL_ASSERT(dWL > 0.0);
-        if (!(dWL > 0.0))
-        {
-            return 0.0; // the channel is not known (yet)
-        }
-        return GlonassWavelength(*pTable, rSatID, iGrp) / dWL;
-    }
+        return GlonassRatioTo(rSatID, iGrp, ZELFREQUENCY_GROUP_2);
     default:
         return LackingPair(IsGroupIndex(iGrp) ? c_adGPS_L2_RATIO[iGrp] : 0.0);
     }
@@ -1093,19 +1098,7 @@ double GetL1FrequencyRatioSquared(const SZelSatID& rSatID, uint32_t ebfFrq)
         {
             return LackingPair(IsGroupIndex(iGrp) ? c_adGPS_L1_RATIO_SQUARED[iGrp] : 0.0);
         }
-        ZEL_ASSERT(rSatID.isValid());
-        boost::shared_ptr<const CZelFrequencyTable> pTable;
-        if (!rSatID.isValid() || !GetFrequencyMgr().GetFrequencyTable(pTable))
-        {
-            return 0.0; // no such slot in the table
-        }
-        const double dWL = GlonassWavelength(*pTable, rSatID, ZELFREQUENCY_GROUP_1);
-        ZEL_ASSERT(dWL > 0.0);
-        if (!(dWL > 0.0))
-        {
-            return 0.0; // the channel is not known (yet)
-        }
-        const double dRatio = GlonassWavelength(*pTable, rSatID, iGrp) / dWL;
+        const double dRatio = GlonassRatioTo(rSatID, iGrp, ZELFREQUENCY_GROUP_1);
         return dRatio * dRatio;
     }
     default:

@@ -113,23 +113,12 @@ void ZELX_SAT_EPHEMERIS_BEIDOU::setUraIndex(uint8_t ucIndex)
 
 void ZELX_SAT_EPHEMERIS_BEIDOU::setClock(size_t ulIndex, double dValue)
 {
-    // An index outside the array would write past it.
-    if (ulIndex >= 2)
-    {
-        ZEL_ASSERT(false);
-        return;
-    }
-    adClock[ulIndex] = dValue;
+    ZelIo::SetElement(adClock, ulIndex, dValue);
 }
 
 void ZELX_SAT_EPHEMERIS_BEIDOU::setAux3(size_t ulIndex, float fValue)
 {
-    if (ulIndex >= 3)
-    {
-        ZEL_ASSERT(false);
-        return;
-    }
-    afAux3[ulIndex] = fValue;
+    ZelIo::SetElement(afAux3, ulIndex, fValue);
 }
 
 // Image: version at 0, own fields at 1 to 79, the Keplerian block at 80.

@@ -90,22 +90,12 @@ void ZELX_SAT_EPHEMERIS_GLONASS::setHealthBool(bool bUnhealthy)
 
 void ZELX_SAT_EPHEMERIS_GLONASS::setState(size_t ulIndex, double dValue)
 {
-    if (ulIndex >= 12)
-    {
-        ZEL_ASSERT(false);
-        return;
-    }
-    adState[ulIndex] = dValue;
+    ZelIo::SetElement(adState, ulIndex, dValue);
 }
 
 void ZELX_SAT_EPHEMERIS_GLONASS::setAux6(size_t ulIndex, uint32_t ulValue)
 {
-    if (ulIndex >= 5)
-    {
-        ZEL_ASSERT(false);
-        return;
-    }
-    aulAux6[ulIndex] = ulValue;
+    ZelIo::SetElement(aulAux6, ulIndex, ulValue);
 }
 
 // Image without version and without health: a loaded record keeps its own

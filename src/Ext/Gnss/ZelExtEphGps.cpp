@@ -209,23 +209,12 @@ void ZELX_SAT_EPHEMERIS::setHealthBool(bool bUnhealthy)
 
 void ZELX_SAT_EPHEMERIS::setWord(size_t ulIndex, uint16_t unValue)
 {
-    // An index outside the array would write past it.
-    if (ulIndex >= 5)
-    {
-        ZEL_ASSERT(false);
-        return;
-    }
-    aunWords[ulIndex] = unValue;
+    ZelIo::SetElement(aunWords, ulIndex, unValue);
 }
 
 void ZELX_SAT_EPHEMERIS::setClock(size_t ulIndex, float fValue)
 {
-    if (ulIndex >= 3)
-    {
-        ZEL_ASSERT(false);
-        return;
-    }
-    afClock[ulIndex] = fValue;
+    ZelIo::SetElement(afClock, ulIndex, fValue);
 }
 
 // Image: own fields at 0 to 48, the Keplerian block at 49.

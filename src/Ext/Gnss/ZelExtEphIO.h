@@ -14,6 +14,18 @@ namespace ZELN
 namespace ZelIo
 {
 
+// An array element set by its index. An index outside the array would write
+// past it: "false", and nothing is stored.
+template <class T, size_t N, class V> inline void SetElement(T (&aArray)[N], size_t ulIndex, const V& rValue)
+{
+    if (ulIndex >= N)
+    {
+        ZEL_ASSERT(false);
+        return;
+    }
+    aArray[ulIndex] = rValue;
+}
+
 // The gate of a versioned image whose version is looked at before its
 // length: buffer, then version (refused with the class's own text), then
 // length. An empty buffer has no version byte to look at: it fails as a

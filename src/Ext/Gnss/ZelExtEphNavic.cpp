@@ -124,13 +124,7 @@ void ZELX_SAT_EPHEMERIS_NAVIC::setUraIndex(uint8_t ucIndex)
 
 void ZELX_SAT_EPHEMERIS_NAVIC::setClock(size_t ulIndex, double dValue)
 {
-    // An index outside the array would write past it.
-    if (ulIndex >= 3)
-    {
-        ZEL_ASSERT(false);
-        return;
-    }
-    adClock[ulIndex] = dValue;
+    ZelIo::SetElement(adClock, ulIndex, dValue);
 }
 
 // Image: version at 0, own fields at 1 to 88, the Keplerian block at 89.

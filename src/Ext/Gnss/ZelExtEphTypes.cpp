@@ -128,22 +128,12 @@ void ZELX_SAT_EPHEMERIS_COMMON::clear()
 
 void ZELX_SAT_EPHEMERIS_COMMON::setKepler(size_t ulIndex, double dValue)
 {
-    if (ulIndex >= ZELEPHKEPLER_COUNT)
-    {
-        ZEL_ASSERT(false);
-        return;
-    }
-    adKepler[ulIndex] = dValue;
+    ZelIo::SetElement(adKepler, ulIndex, dValue);
 }
 
 void ZELX_SAT_EPHEMERIS_COMMON::setHarmonic(size_t ulIndex, float fValue)
 {
-    if (ulIndex >= ZELEPHHARMONIC_COUNT)
-    {
-        ZEL_ASSERT(false);
-        return;
-    }
-    afHarmonics[ulIndex] = fValue;
+    ZelIo::SetElement(afHarmonics, ulIndex, fValue);
 }
 
 // Image: adKepler at 0 (9 x 8), afHarmonics at 72 (6 x 4).
