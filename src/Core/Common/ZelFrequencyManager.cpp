@@ -961,80 +961,84 @@ double GlonassWavelength(const CZelFrequencyTable& rTable, const SZelSatID& rSat
 
 } // namespace
 
-double GetIonoFreeCoef1(const SZelSatID& rSatID)
+namespace
+{
+
+// The stored iono-free coefficients of one carrier of a combination, by
+// system; SBAS and QZSS share the GPS values.
+struct SIonoFreeCoefs
+{
+    double dGps;
+    double dGpsMetres;
+    double dGlonass; // times the satellite's wavelength for metres
+    double dBeidou;
+    double dBeidouMetres;
+    EZelFrequencyGroup eGlonassGroup;
+};
+
+constexpr SIonoFreeCoefs c_stCOEF1 = {c_dGPS_COEF1, c_dGPS_COEF1_METRES, c_dGLONASS_COEF1,
+                                      c_dBDS_COEF1, c_dBDS_COEF1_METRES, ZELFREQUENCY_GROUP_1};
+constexpr SIonoFreeCoefs c_stCOEF2 = {c_dGPS_COEF2, c_dGPS_COEF2_METRES, c_dGLONASS_COEF2,
+                                      c_dBDS_COEF2, c_dBDS_COEF2_METRES, ZELFREQUENCY_GROUP_2};
+
+double IonoFreeCoef(const SZelSatID& rSatID, const SIonoFreeCoefs& rCoefs)
 {
     switch (rSatID.eSatSystem)
     {
     case ZELSATSYSTEM_GPS:
     case ZELSATSYSTEM_SBAS:
     case ZELSATSYSTEM_QZSS:
-        return c_dGPS_COEF1;
+        return rCoefs.dGps;
     case ZELSATSYSTEM_GLONASS:
-        return c_dGLONASS_COEF1; // the same on every channel
+        return rCoefs.dGlonass; // the same on every channel
     case ZELSATSYSTEM_BEIDOU:
-        return c_dBDS_COEF1;
+        return rCoefs.dBeidou;
     default:
-        return LackingPair(c_dGPS_COEF1);
+        return LackingPair(rCoefs.dGps);
     }
+}
+
+double IonoFreeCoefInMetres(const SZelSatID& rSatID, const SIonoFreeCoefs& rCoefs)
+{
+    switch (rSatID.eSatSystem)
+    {
+    case ZELSATSYSTEM_GPS:
+    case ZELSATSYSTEM_SBAS:
+    case ZELSATSYSTEM_QZSS:
+        return rCoefs.dGpsMetres;
+    case ZELSATSYSTEM_GLONASS:
+    {
+        const double dWL = GetFrequencyMgr().GetWavelength(rSatID, rCoefs.eGlonassGroup);
+        ZEL_ASSERT(dWL > 0.0);
+        return rCoefs.dGlonass * dWL;
+    }
+    case ZELSATSYSTEM_BEIDOU:
+        return rCoefs.dBeidouMetres;
+    default:
+        return LackingPair(rCoefs.dGpsMetres);
+    }
+}
+
+} // namespace
+
+double GetIonoFreeCoef1(const SZelSatID& rSatID)
+{
+    return IonoFreeCoef(rSatID, c_stCOEF1);
 }
 
 double GetIonoFreeCoef2(const SZelSatID& rSatID)
 {
-    switch (rSatID.eSatSystem)
-    {
-    case ZELSATSYSTEM_GPS:
-    case ZELSATSYSTEM_SBAS:
-    case ZELSATSYSTEM_QZSS:
-        return c_dGPS_COEF2;
-    case ZELSATSYSTEM_GLONASS:
-        return c_dGLONASS_COEF2;
-    case ZELSATSYSTEM_BEIDOU:
-        return c_dBDS_COEF2;
-    default:
-        return LackingPair(c_dGPS_COEF2);
-    }
+    return IonoFreeCoef(rSatID, c_stCOEF2);
 }
 
 double GetIonoFreeCoef1InMetres(const SZelSatID& rSatID)
 {
-    switch (rSatID.eSatSystem)
-    {
-    case ZELSATSYSTEM_GPS:
-    case ZELSATSYSTEM_SBAS:
-    case ZELSATSYSTEM_QZSS:
-        return c_dGPS_COEF1_METRES;
-    case ZELSATSYSTEM_GLONASS:
-    {
-        const double dWL = GetFrequencyMgr().GetWavelength(rSatID, ZELFREQUENCY_GROUP_1);
-        ZEL_ASSERT(dWL > 0.0);
-        return c_dGLONASS_COEF1 * dWL;
-    }
-    case ZELSATSYSTEM_BEIDOU:
-        return c_dBDS_COEF1_METRES;
-    default:
-        return LackingPair(c_dGPS_COEF1_METRES);
-    }
+    return IonoFreeCoefInMetres(rSatID, c_stCOEF1);
 }
 
 double GetIonoFreeCoef2InMetres(const SZelSatID& rSatID)
 {
-    switch (rSatID.eSatSystem)
-    {
-    case ZELSATSYSTEM_GPS:
-    case ZELSATSYSTEM_SBAS:
-    case ZELSATSYSTEM_QZSS:
-        return c_dGPS_COEF2_METRES;
-    case ZELSATSYSTEM_GLONASS:
-    {
-        const double dWL = GetFrequencyMgr().GetWavelength(rSatID, ZELFREQUENCY_GROUP_2);
-        ZEL_ASSERT(dWL > 0.0);
-        return c_dGLONASS_COEF2 * dWL;
-    }
-    case ZELSATSYSTEM_BEIDOU:
-        return c_dBDS_COEF2_METRES;
-    default:
-        return LackingPair(c_dGPS_COEF2_METRES);
-    }
+    return IonoFreeCoefInMetres(rSatID, c_stCOEF2);
 }
 
 // f(reference group) / f(group) of a GLONASS satellite over one table

@@ -139,14 +139,12 @@ bool ZELX_SAT_EPHEMERIS_BEIDOU::saveData(unsigned char* pBuffer, uint64_t uiBuff
     ZelIo::PutArrayAt(pBuffer, 18, adClock);
     if (!ZelIo::PutTimeAt(pBuffer, uiBufferLength, 34, stToc))
     {
-        ZEL_ASSERT(false);
         return false;
     }
     ZelIo::PutArrayAt(pBuffer, 50, afAux3);
     ZelIo::PutAt(pBuffer, 62, ucAux4);
     if (!ZelIo::PutTimeAt(pBuffer, uiBufferLength, 63, stToe))
     {
-        ZEL_ASSERT(false);
         return false;
     }
     ZelIo::PutAt(pBuffer, 79, ucHealth);
@@ -175,14 +173,12 @@ bool ZELX_SAT_EPHEMERIS_BEIDOU::loadData(const unsigned char* pBuffer, uint64_t 
     ZelIo::GetArrayAt(pBuffer, 18, adClock);
     if (!ZelIo::GetTimeAt(pBuffer, uiBufferLength, 34, stToc))
     {
-        ZEL_ASSERT(false);
         return false;
     }
     ZelIo::GetArrayAt(pBuffer, 50, afAux3);
     ZelIo::GetAt(pBuffer, 62, ucAux4);
     if (!ZelIo::GetTimeAt(pBuffer, uiBufferLength, 63, stToe))
     {
-        ZEL_ASSERT(false);
         return false;
     }
     ZelIo::GetAt(pBuffer, 79, ucHealth);

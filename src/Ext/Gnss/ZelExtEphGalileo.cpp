@@ -354,7 +354,6 @@ bool ZELX_SAT_EPHEMERIS_GALILEO::saveData(unsigned char* pBuffer, uint64_t uiBuf
     ZelIo::PutAt(pBuffer, 57, dBgdE5b);
     if (!ZelIo::PutTimeAt(pBuffer, uiBufferLength, 65, stRefTimeApprox))
     {
-        ZEL_ASSERT(false);
         return false;
     }
     ZelIo::PutAt(pBuffer, 81, unPT1Week);
@@ -395,7 +394,6 @@ bool ZELX_SAT_EPHEMERIS_GALILEO::loadData(const unsigned char* pBuffer, uint64_t
     ZelIo::GetAt(pBuffer, 57, dBgdE5b);
     if (!ZelIo::GetTimeAt(pBuffer, uiBufferLength, 65, stRefTimeApprox))
     {
-        ZEL_ASSERT(false);
         return false;
     }
     ZelIo::GetAt(pBuffer, 81, unPT1Week);

@@ -47,19 +47,30 @@ inline bool ExtVersionGate(const unsigned char* pBuffer, uint64_t uiBufferLength
 }
 
 // A time in its own 16-byte packed form, through its own writer and reader
-// (which make their own bound test); the caller reports a failure.
+// (which make their own bound test); a failure is reported here once more,
+// as the outer record's own "false".
 inline bool PutTimeAt(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t ulOffset,
                       const SMjdTime& rTime)
 {
     uint64_t ulCount = 0;
-    return rTime.saveData(pBuffer + ulOffset, uiBufferLength - ulOffset, &ulCount);
+    if (!rTime.saveData(pBuffer + ulOffset, uiBufferLength - ulOffset, &ulCount))
+    {
+        ZEL_ASSERT(false);
+        return false;
+    }
+    return true;
 }
 
 inline bool GetTimeAt(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t ulOffset,
                       SMjdTime& rTime)
 {
     uint64_t ulCount = 0;
-    return rTime.loadData(pBuffer + ulOffset, uiBufferLength - ulOffset, &ulCount);
+    if (!rTime.loadData(pBuffer + ulOffset, uiBufferLength - ulOffset, &ulCount))
+    {
+        ZEL_ASSERT(false);
+        return false;
+    }
+    return true;
 }
 
 // Arrays of raw values, one after another.

@@ -142,7 +142,6 @@ bool ZELX_SAT_EPHEMERIS_NAVIC::saveData(unsigned char* pBuffer, uint64_t uiBuffe
     ZelIo::PutAt(pBuffer, 34, fUra);
     if (!ZelIo::PutTimeAt(pBuffer, uiBufferLength, 38, stToc))
     {
-        ZEL_ASSERT(false);
         return false;
     }
     ZelIo::PutAt(pBuffer, 54, dAux2);
@@ -151,7 +150,6 @@ bool ZELX_SAT_EPHEMERIS_NAVIC::saveData(unsigned char* pBuffer, uint64_t uiBuffe
     ZelIo::PutAt(pBuffer, 64, ucHealthFlag2);
     if (!ZelIo::PutTimeAt(pBuffer, uiBufferLength, 65, stToe))
     {
-        ZEL_ASSERT(false);
         return false;
     }
     ZelIo::PutAt(pBuffer, 81, ucAlertFlag);
@@ -185,7 +183,6 @@ bool ZELX_SAT_EPHEMERIS_NAVIC::loadData(const unsigned char* pBuffer, uint64_t u
     ZelIo::GetAt(pBuffer, 34, fUra);
     if (!ZelIo::GetTimeAt(pBuffer, uiBufferLength, 38, stToc))
     {
-        ZEL_ASSERT(false);
         return false;
     }
     ZelIo::GetAt(pBuffer, 54, dAux2);
@@ -194,7 +191,6 @@ bool ZELX_SAT_EPHEMERIS_NAVIC::loadData(const unsigned char* pBuffer, uint64_t u
     ZelIo::GetAt(pBuffer, 64, ucHealthFlag2);
     if (!ZelIo::GetTimeAt(pBuffer, uiBufferLength, 65, stToe))
     {
-        ZEL_ASSERT(false);
         return false;
     }
     ZelIo::GetAt(pBuffer, 81, ucAlertFlag);
