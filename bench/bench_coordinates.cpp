@@ -2,6 +2,9 @@
 // at hand, the same conversions of its exact geocentric class side by side,
 // with the largest position difference between the two over a grid.
 #include <ZelTypes/Core/Common/ZelConvGeographicCartesian.h>
+#include <ZelTypes/Core/Common/ZelCoordinateSet.h>
+
+#include "ZelSamplesCoordinates.h"
 
 #include <benchmark/benchmark.h>
 
@@ -126,6 +129,35 @@ void BM_CoordGeographicToCartesian(benchmark::State& state)
     state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(BM_CoordGeographicToCartesian);
+
+// A coordinate set from a cartesian position: the conversion with its rotation.
+void BM_CoordinateSetFromCartesian(benchmark::State& state)
+{
+    const ZELN::SZelCoordinateTriplet stPos = ZelSample::CartesianTriplet();
+    ZELN::SZelCoordinateSet stSet;
+    for (auto _ : state)
+    {
+        stSet.Set(stPos);
+        benchmark::DoNotOptimize(stSet.adTrafo);
+    }
+}
+BENCHMARK(BM_CoordinateSetFromCartesian);
+
+// The 121-byte image of a coordinate set, written and read back.
+void BM_CoordinateSetImage(benchmark::State& state)
+{
+    const ZELN::SZelCoordinateSet stSet = ZelSample::CoordinateSet();
+    unsigned char aucImage[121] = {};
+    ZELN::SZelCoordinateSet stRead;
+    for (auto _ : state)
+    {
+        uint64_t ulOffset = 0;
+        stSet.saveData(aucImage, sizeof(aucImage), &ulOffset);
+        stRead.loadData(aucImage, sizeof(aucImage), &ulOffset);
+        benchmark::DoNotOptimize(stRead.adTrafo);
+    }
+}
+BENCHMARK(BM_CoordinateSetImage);
 
 #if defined(ZELTYPES_HAVE_GEOGRAPHICLIB)
 

@@ -1,7 +1,11 @@
 #include <ZelTypes/Core/Common/ZelObsInfo.h>
 #include <ZelTypes/Core/Common/ZelTypesIDs.h>
 
+#include "ZelSamplesIds.h"
+
 #include <benchmark/benchmark.h>
+
+#include <sstream>
 
 namespace
 {
@@ -52,5 +56,37 @@ void BM_FromGlobalSatNumber(benchmark::State& rState)
     }
 }
 BENCHMARK(BM_FromGlobalSatNumber);
+
+// The 16-byte image of the signal key of the corrections, written and read back.
+void BM_SignalKeyImage(benchmark::State& rState)
+{
+    const SZelSatFrqTMdGroupID stKey = ZelSample::SatFrqTMdGroupId();
+    unsigned char aucImage[16] = {};
+    SZelSatFrqTMdGroupID stRead;
+    for (auto _ : rState)
+    {
+        uint64_t ulOffset = 0;
+        stKey.saveData(aucImage, sizeof(aucImage), &ulOffset);
+        stRead.loadData(aucImage, sizeof(aucImage), &ulOffset);
+        benchmark::DoNotOptimize(stRead);
+    }
+}
+BENCHMARK(BM_SignalKeyImage);
+
+// The text of the same key, written and read back: two catalogue lookups of
+// the frequency name.
+void BM_SignalKeyText(benchmark::State& rState)
+{
+    const SZelSatFrqTMdGroupID stKey = ZelSample::SatFrqTMdGroupId();
+    SZelSatFrqTMdGroupID stRead;
+    for (auto _ : rState)
+    {
+        std::stringstream ss;
+        ss << stKey;
+        ss >> stRead;
+        benchmark::DoNotOptimize(stRead);
+    }
+}
+BENCHMARK(BM_SignalKeyText);
 
 } // namespace

@@ -3,6 +3,8 @@
 //
 // The counter "x_memcpy" is the time of one call divided by the time of one
 // memcpy of the same number of bytes, both measured in the same process.
+#include "ZelSamplesObservations.h"
+
 #include <ZelTypes/Core/Common/ZelObsEpoch.h>
 
 #include <benchmark/benchmark.h>
@@ -22,52 +24,16 @@ using namespace ZELN;
 constexpr int c_iNB_SATS = 40;
 constexpr int c_iNB_SIGNALS = 4;
 constexpr int c_iNB_CORRECTIONS = 400;
+constexpr int c_iNB_RANGE_RATES = 32;
 
 SZelObservationEpoch MakeEpoch()
 {
-    const EZelSatSystem aeSys[] = {ZELSATSYSTEM_GPS, ZELSATSYSTEM_GLONASS, ZELSATSYSTEM_GALILEO,
-                                   ZELSATSYSTEM_BEIDOU};
-    SZelObservationEpoch stEpoch;
-    stEpoch.stZelObservationEpochHeader.stTime.SetGpsTimeMs(2300, 345600000.0);
-    stEpoch.stZelObservationEpochHeader.ucNumSats = c_iNB_SATS;
-    for (int iSat = 0; iSat < c_iNB_SATS; ++iSat)
-    {
-        SZelSatObservation stSat;
-        stSat.stSatId = SZelSatID(aeSys[iSat % 4], static_cast<uint8_t>(1 + iSat / 4));
-        stSat.ulIOD = static_cast<uint32_t>(iSat);
-        stSat.ucChannel = static_cast<uint8_t>(iSat);
-        stSat.uiNumFreq = c_iNB_SIGNALS;
-        for (int iSig = 0; iSig < c_iNB_SIGNALS; ++iSig)
-        {
-            SZelFreqObservation& rstObs = stSat.astFreqObs[iSig];
-            rstObs.ulObsFlags = 0x2F;
-            rstObs.eFrequency = static_cast<EZelFrequency>(1 + iSig);
-            rstObs.dPhase = 1.1e8 + iSat * 1000.0 + iSig * 0.125;
-            rstObs.dCode = 2.2e7 + iSat * 100.0 + iSig;
-            rstObs.dDopplerM = -1234.5 + iSat;
-            rstObs.dDopplerC = 17.25;
-            rstObs.unCNo = static_cast<uint16_t>(400 + iSat);
-            rstObs.fVelocity = 1.5f;
-        }
-        stEpoch.vecSatObs.push_back(stSat);
-    }
-    return stEpoch;
+    return ZelSample::ObsEpoch(c_iNB_SATS, c_iNB_SIGNALS);
 }
 
 SZelRtmeOutEpochData MakeOutput()
 {
-    SZelRtmeOutEpochData stData;
-    for (int iIdx = 0; iIdx < c_iNB_CORRECTIONS; ++iIdx)
-    {
-        stData.AddCorrection(static_cast<EZelCorrType>(1 + iIdx % 5),
-                             SZelSatID(ZELSATSYSTEM_BEIDOU, static_cast<uint8_t>(1 + iIdx % 40)),
-                             static_cast<EZelFrequency>(1 + (iIdx / 40) % 10), (iIdx & 1) != 0, iIdx * 0.001);
-    }
-    for (int iIdx = 0; iIdx < c_iNB_SATS; ++iIdx)
-    {
-        stData.AddRangeRate(SZelSatID(ZELSATSYSTEM_GPS, static_cast<uint8_t>(1 + iIdx % 32)), iIdx * 1.5);
-    }
-    return stData;
+    return ZelSample::RtmeOut(c_iNB_CORRECTIONS, c_iNB_RANGE_RATES);
 }
 
 // Nanoseconds of one memcpy of ulBytes, the best of several rounds.

@@ -1,15 +1,12 @@
 // Every binary reader of the observation records; the first byte picks the
-// record. A forged count that asks for more memory than there is ends in
-// std::bad_alloc, the documented outcome.
-#include "FuzzMemoryBudget.h"
-
+// record. Readers allocate in proportion to their input, so the target runs
+// under the fuzzer's own memory limits.
 #include <ZelTypes/Core/Common/ZelObsEpoch.h>
 #include <ZelTypes/Core/Common/ZelTypesObs.h>
 #include <ZelTypes/Ext/Gnss/ZelExtObsTypes.h>
 
 #include <cstddef>
 #include <cstdint>
-#include <new>
 #include <sstream>
 #include <vector>
 
@@ -63,49 +60,41 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* pData, size_t ulSize)
     }
     const uint8_t* pImage = pData + 1;
     const size_t ulImage = ulSize - 1;
-    try
+    switch (pData[0] % 7)
     {
-        const ZelFuzz::CBudgetScope stBudget;
-        switch (pData[0] % 7)
+    case 0:
+        Check<ZELN::SZelSatObservation>(pImage, ulImage);
+        break;
+    case 1:
+        Check<ZELN::SZelObservationEpochHeader>(pImage, ulImage);
+        break;
+    case 2:
+        Check<ZELN::SZelObservationEpoch>(pImage, ulImage);
+        break;
+    case 3:
+        Check<ZELN::SZelRtmeOutEpochData>(pImage, ulImage);
+        break;
+    case 4:
+    {
+        // No text form: the binary checks only.
+        ZELN::SZelOutObservations stOut;
+        uint64_t ulOffset = 0;
+        if (stOut.loadData(pImage, ulImage, &ulOffset))
         {
-        case 0:
-            Check<ZELN::SZelSatObservation>(pImage, ulImage);
-            break;
-        case 1:
-            Check<ZELN::SZelObservationEpochHeader>(pImage, ulImage);
-            break;
-        case 2:
-            Check<ZELN::SZelObservationEpoch>(pImage, ulImage);
-            break;
-        case 3:
-            Check<ZELN::SZelRtmeOutEpochData>(pImage, ulImage);
-            break;
-        case 4:
-        {
-            // No text form: the binary checks only.
-            ZELN::SZelOutObservations stOut;
-            uint64_t ulOffset = 0;
-            if (stOut.loadData(pImage, ulImage, &ulOffset))
+            std::vector<unsigned char> vecOut(static_cast<size_t>(stOut.getSize()));
+            if (ulOffset != vecOut.size() || !stOut.saveData(vecOut.data(), vecOut.size(), &ulOffset))
             {
-                std::vector<unsigned char> vecOut(static_cast<size_t>(stOut.getSize()));
-                if (ulOffset != vecOut.size() || !stOut.saveData(vecOut.data(), vecOut.size(), &ulOffset))
-                {
-                    __builtin_trap();
-                }
+                __builtin_trap();
             }
-            break;
         }
-        case 5:
-            Check<ZELN::SZelObsInfo>(pImage, ulImage);
-            break;
-        default:
-            Check<ZELN::ZelExtObsEpoch>(pImage, ulImage);
-            break;
-        }
+        break;
     }
-    catch (const std::bad_alloc&)
-    {
-        // A forged count beyond the memory there is.
+    case 5:
+        Check<ZELN::SZelObsInfo>(pImage, ulImage);
+        break;
+    default:
+        Check<ZELN::ZelExtObsEpoch>(pImage, ulImage);
+        break;
     }
     return 0;
 }

@@ -1,6 +1,8 @@
 // Coordinates: the geographic/cartesian conversion, the coordinate triplet
 // and set, azimuth and elevation, and the small coordinate exchange records.
+#include "ZelSamplesCoordinates.h"
 #include "ZelTestHooks.h"
+#include "ZelTestKit.h"
 
 #include <ZelTypes/Core/Common/ZelConvGeographicCartesian.h>
 #include <ZelTypes/Core/Common/ZelCoordinateSet.h>
@@ -12,7 +14,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <limits>
 #include <sstream>
 #include <string>
@@ -20,6 +21,7 @@
 #include <vector>
 
 using namespace ZELN;
+using ZelTest::CImage;
 using ZelTest::CRecordingHook;
 
 namespace
@@ -37,11 +39,6 @@ constexpr double c_dNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double c_dA = 6378137.0;
 constexpr double c_dB = 6356752.3142;
 constexpr double c_dE2 = 0.00669437999013;
-
-template <class T> void Put(std::vector<unsigned char>& vec, size_t ulOffset, T tValue)
-{
-    std::memcpy(vec.data() + ulOffset, &tValue, sizeof(T));
-}
 
 double Distance(double dX1, double dY1, double dZ1, double dX2, double dY2, double dZ2)
 {
@@ -419,6 +416,36 @@ TEST(ConvGeoCart, AgreesWithIterativeSolution)
     RecordProperty("WorstHeightMetres", std::to_string(dWorstHeight));
 }
 
+// The forward conversion is a formula without approximation: against the
+// same formula in extended precision only the rounding of doubles remains.
+TEST(ConvGeoCart, ForwardAgreesWithExtendedPrecision)
+{
+    double dWorst = 0.0;
+    for (double dLatDeg : GridLatitudesDeg())
+    {
+        for (double dLonDeg : GridLongitudesDeg())
+        {
+            for (double dH : GridHeights())
+            {
+                const double dLat = dLatDeg * c_dDeg, dLon = dLonDeg * c_dDeg;
+                double dX = 0.0, dY = 0.0, dZ = 0.0;
+                ConvGeographicToCartesian(dLat, dLon, dH, dX, dY, dZ, nullptr);
+                const long double s = std::sin(static_cast<long double>(dLat));
+                const long double c = std::cos(static_cast<long double>(dLat));
+                const long double n = c_dA / std::sqrt(1.0L - c_dE2 * s * s);
+                const long double x = (n + dH) * c * std::cos(static_cast<long double>(dLon));
+                const long double y = (n + dH) * c * std::sin(static_cast<long double>(dLon));
+                const long double z = (n * (1.0L - c_dE2) + dH) * s;
+                const double dErr = static_cast<double>(
+                    std::sqrt((x - dX) * (x - dX) + (y - dY) * (y - dY) + (z - dZ) * (z - dZ)));
+                EXPECT_LT(dErr, 1e-8) << dLatDeg << " " << dLonDeg << " " << dH;
+                dWorst = std::max(dWorst, dErr);
+            }
+        }
+    }
+    RecordProperty("WorstForwardMetres", std::to_string(dWorst));
+}
+
 TEST(ConvGeoCart, TripletFormsSetTheType)
 {
     CRecordingHook hook;
@@ -780,55 +807,27 @@ TEST(CoordinateTriplet, Reset)
 
 TEST(CoordinateTriplet, BinaryGolden)
 {
-    const SZelCoordinateTriplet st(ZELCOORDINATESYSTEM_GEOGRAPHIC, 0.75, -1.25, 1234.5);
-    std::vector<unsigned char> vecExpected(28, 0);
-    Put<int32_t>(vecExpected, 0, 1);
-    Put<double>(vecExpected, 4, 0.75);
-    Put<double>(vecExpected, 12, -1.25);
-    Put<double>(vecExpected, 20, 1234.5);
-
-    CRecordingHook hook;
-    std::vector<unsigned char> vecImage(28, 0xEE);
-    uint64_t ulOffset = 99;
-    ASSERT_TRUE(st.saveData(vecImage.data(), vecImage.size(), &ulOffset));
-    EXPECT_EQ(ulOffset, 28u);
-    EXPECT_EQ(vecImage, vecExpected);
-
-    SZelCoordinateTriplet stRead;
-    ulOffset = 99;
-    ASSERT_TRUE(stRead.loadData(vecExpected.data(), vecExpected.size(), &ulOffset));
-    EXPECT_EQ(ulOffset, 28u);
-    EXPECT_EQ(stRead, st);
-    EXPECT_EQ(hook.Count(), 0u);
-
-    // One byte short: "false", count 0, nothing touched.
-    std::vector<unsigned char> vecShort(27, 0xEE);
-    ulOffset = 99;
-    EXPECT_FALSE(st.saveData(vecShort.data(), vecShort.size(), &ulOffset));
-    EXPECT_EQ(ulOffset, 0u);
-    EXPECT_EQ(vecShort, std::vector<unsigned char>(27, 0xEE));
-    SZelCoordinateTriplet stUntouched(ZELCOORDINATESYSTEM_LOCGEO, 1.0, 2.0, 3.0);
-    ulOffset = 99;
-    EXPECT_FALSE(stUntouched.loadData(vecExpected.data(), 27, &ulOffset));
-    EXPECT_EQ(ulOffset, 0u);
-    EXPECT_EQ(stUntouched, SZelCoordinateTriplet(ZELCOORDINATESYSTEM_LOCGEO, 1.0, 2.0, 3.0));
-    // Null buffers.
-    EXPECT_FALSE(st.saveData(nullptr, 28, &ulOffset));
-    EXPECT_FALSE(stUntouched.loadData(nullptr, 28, &ulOffset));
-    EXPECT_EQ(hook.Texts(), std::vector<std::string>({c_strFalse, c_strFalse, c_strFalse, c_strFalse}));
+    ZelTest::ExpectCoreImage(
+        ZelSample::Triplet(), CImage().At(0).I32(1).At(4).F64(0.75).At(12).F64(-1.25).At(20).F64(1234.5),
+        ZelTest::SCoreRules(), SZelCoordinateTriplet(ZELCOORDINATESYSTEM_LOCGEO, 1.0, 2.0, 3.0));
 
     // Any 32-bit type value is read as it stands.
-    Put<int32_t>(vecExpected, 0, -7);
-    ASSERT_TRUE(stRead.loadData(vecExpected.data(), vecExpected.size(), &ulOffset));
+    const ZelTest::Bytes vecOdd = CImage().I32(-7).F64(0.75).F64(-1.25).F64(1234.5);
+    SZelCoordinateTriplet stRead;
+    uint64_t ulOffset = 0;
+    ASSERT_TRUE(stRead.loadData(vecOdd.data(), vecOdd.size(), &ulOffset));
     EXPECT_EQ(static_cast<int>(stRead.ecoordinatesystem), -7);
 }
 
 TEST(CoordinateTriplet, TextExact)
 {
+    const SZelCoordinateTriplet st(ZELCOORDINATESYSTEM_CARTESIAN, 1234567.891234567, -0.000123456789012345,
+                                   42.0);
+    ZelTest::ExpectText(st, "CooTyp, Cart, Coo, 1234567.89123, -0.000123456789012, 42");
+    ZelTest::ExpectTextExact(ZelSample::Triplet(), "CooTyp, Geo, Coo, 0.75, -1.25, 1234.5");
+    // The precision stays set on the stream.
     std::ostringstream oss;
-    oss << SZelCoordinateTriplet(ZELCOORDINATESYSTEM_CARTESIAN, 1234567.891234567, -0.000123456789012345,
-                                 42.0);
-    EXPECT_EQ(oss.str(), "CooTyp, Cart, Coo, 1234567.89123, -0.000123456789012, 42");
+    oss << st;
     EXPECT_EQ(oss.precision(), 12);
 
     std::ostringstream oss2;
@@ -1098,62 +1097,21 @@ TEST(CoordinateSet, Equality)
 
 TEST(CoordinateSet, BinaryGolden)
 {
-    SZelCoordinateSet st;
-    st.ucAvl = 5;
-    st.stCart = SZelCoordinateTriplet(ZELCOORDINATESYSTEM_CARTESIAN, 1.5, -2.5, 3.5);
-    st.stGeo = SZelCoordinateTriplet(ZELCOORDINATESYSTEM_LOCGEO, 0.25, 0.125, -10.0);
-    for (int i = 0; i < 8; ++i)
-    {
-        st.adTrafo[i] = 0.5 * i - 1.0;
-    }
-    std::vector<unsigned char> vecExpected(121, 0);
-    vecExpected[0] = 5;
-    Put<int32_t>(vecExpected, 1, 0);
-    Put<double>(vecExpected, 5, 1.5);
-    Put<double>(vecExpected, 13, -2.5);
-    Put<double>(vecExpected, 21, 3.5);
-    Put<int32_t>(vecExpected, 29, 2);
-    Put<double>(vecExpected, 33, 0.25);
-    Put<double>(vecExpected, 41, 0.125);
-    Put<double>(vecExpected, 49, -10.0);
-    const double adTrafo[8] = {-1.0, -0.5, 0.0, 0.5, 1.0, 1.5, 2.0, 2.5};
-    for (int i = 0; i < 8; ++i)
-    {
-        Put<double>(vecExpected, 57 + 8 * i, adTrafo[i]);
-    }
-
-    CRecordingHook hook;
-    std::vector<unsigned char> vecImage(121, 0xEE);
-    uint64_t ulOffset = 99;
-    ASSERT_TRUE(st.saveData(vecImage.data(), vecImage.size(), &ulOffset));
-    EXPECT_EQ(ulOffset, 121u);
-    EXPECT_EQ(vecImage, vecExpected);
-
-    SZelCoordinateSet stRead;
-    ulOffset = 99;
-    ASSERT_TRUE(stRead.loadData(vecExpected.data(), vecExpected.size(), &ulOffset));
-    EXPECT_EQ(ulOffset, 121u);
-    EXPECT_EQ(stRead, st);
-    EXPECT_EQ(hook.Count(), 0u);
-
-    // One byte short: "false", the count not set, nothing touched.
-    std::vector<unsigned char> vecShort(120, 0xEE);
-    ulOffset = 99;
-    EXPECT_FALSE(st.saveData(vecShort.data(), vecShort.size(), &ulOffset));
-    EXPECT_EQ(ulOffset, 99u);
-    EXPECT_EQ(vecShort, std::vector<unsigned char>(120, 0xEE));
-    SZelCoordinateSet stUntouched;
-    EXPECT_FALSE(stUntouched.loadData(vecExpected.data(), 120, &ulOffset));
-    EXPECT_EQ(ulOffset, 99u);
-    EXPECT_EQ(stUntouched, SZelCoordinateSet());
-    EXPECT_FALSE(st.saveData(nullptr, 121, &ulOffset));
-    EXPECT_FALSE(stUntouched.loadData(nullptr, 121, &ulOffset));
-    EXPECT_EQ(ulOffset, 99u);
-    EXPECT_EQ(hook.Texts(), std::vector<std::string>({c_strFalse, c_strFalse, c_strFalse, c_strFalse}));
+    // ucAvl, then the triplets (type and three values), then the rotation.
+    CImage stImage;
+    stImage.At(0).U8(5);
+    stImage.At(1).I32(0).F64(1.5).F64(-2.5).F64(3.5);
+    stImage.At(29).I32(2).F64(0.25).F64(0.125).F64(-10.0);
+    stImage.At(57).F64(-1.0).F64(-0.5).F64(0.0).F64(0.5).F64(1.0).F64(1.5).F64(2.0).F64(2.5);
+    const ZelTest::Bytes vecExpected = stImage.Get();
+    ZelTest::SCoreRules stRules;
+    stRules.eCountRule = ZelTest::eCOUNT_KEPT;
+    ZelTest::ExpectCoreImage(ZelSample::CoordinateSet(), vecExpected, stRules);
 
     // A larger buffer: the image is the first 121 bytes.
     std::vector<unsigned char> vecLarge(200, 0xEE);
-    ASSERT_TRUE(st.saveData(vecLarge.data(), vecLarge.size(), &ulOffset));
+    uint64_t ulOffset = 99;
+    ASSERT_TRUE(ZelSample::CoordinateSet().saveData(vecLarge.data(), vecLarge.size(), &ulOffset));
     EXPECT_EQ(ulOffset, 121u);
     EXPECT_EQ(std::vector<unsigned char>(vecLarge.begin(), vecLarge.begin() + 121), vecExpected);
     EXPECT_EQ(vecLarge[121], 0xEE);
@@ -1167,14 +1125,14 @@ TEST(CoordinateSet, TextExact)
     st.stGeo = SZelCoordinateTriplet(ZELCOORDINATESYSTEM_GEOGRAPHIC, 0.5, 0.25, 100.0);
     const double adTrafo[8] = {1.0, -0.5, 0.0, 0.125, 1e-10, -3.0, 0.75, 2.5};
     std::copy(adTrafo, adTrafo + 8, st.adTrafo);
+    ZelTest::ExpectTextExact(
+        st, "Avl, 7, Cart, CooTyp, Cart, Coo, 1, 2, 3, Geo, CooTyp, Geo, Coo, 0.5, 0.25, 100, Trafo, "
+            "1.00000000000000000e+00, -5.00000000000000000e-01, 0.00000000000000000e+00, "
+            "1.25000000000000000e-01, 1.00000000000000004e-10, -3.00000000000000000e+00, "
+            "7.50000000000000000e-01, 2.50000000000000000e+00");
+    // Format and precision stay on the stream.
     std::ostringstream oss;
     oss << st;
-    EXPECT_EQ(oss.str(),
-              "Avl, 7, Cart, CooTyp, Cart, Coo, 1, 2, 3, Geo, CooTyp, Geo, Coo, 0.5, 0.25, 100, Trafo, "
-              "1.00000000000000000e+00, -5.00000000000000000e-01, 0.00000000000000000e+00, "
-              "1.25000000000000000e-01, 1.00000000000000004e-10, -3.00000000000000000e+00, "
-              "7.50000000000000000e-01, 2.50000000000000000e+00");
-    // Format and precision stay on the stream.
     EXPECT_EQ(oss.precision(), 17);
     EXPECT_EQ(oss.flags() & std::ios_base::floatfield, std::ios_base::scientific);
 }
@@ -1478,7 +1436,7 @@ TEST(AzimuthElevation, GeostationarySatellite)
 
 // ===================================================================== satellite position record
 
-TEST(SatPosVel, DefaultEqualityBinaryText)
+TEST(SatPosVel, DefaultAndEquality)
 {
     SZelSatPosVel st;
     EXPECT_EQ(st.getSize(), 64u);
@@ -1490,55 +1448,22 @@ TEST(SatPosVel, DefaultEqualityBinaryText)
     EXPECT_EQ(st.dRange, 0.0);
     EXPECT_EQ(st.dRangeRate, 0.0);
 
-    st.adPos[0] = 1.5;
-    st.adPos[1] = -2.5;
-    st.adPos[2] = 3.5;
-    st.adVel[0] = 0.25;
-    st.adVel[1] = -0.125;
-    st.adVel[2] = 8.0;
-    st.dRange = 21000000.5;
-    st.dRangeRate = -512.25;
+    st = ZelSample::SatPosVel();
     EXPECT_NE(st, SZelSatPosVel());
     SZelSatPosVel stNaN = st;
     stNaN.dRangeRate = c_dNaN;
     EXPECT_NE(stNaN, stNaN);
+}
 
-    std::vector<unsigned char> vecExpected(64, 0);
-    Put<double>(vecExpected, 0, 1.5);
-    Put<double>(vecExpected, 8, -2.5);
-    Put<double>(vecExpected, 16, 3.5);
-    Put<double>(vecExpected, 24, 0.25);
-    Put<double>(vecExpected, 32, -0.125);
-    Put<double>(vecExpected, 40, 8.0);
-    Put<double>(vecExpected, 48, 21000000.5);
-    Put<double>(vecExpected, 56, -512.25);
-
-    CRecordingHook hook;
-    std::vector<unsigned char> vecImage(64, 0xEE);
-    uint64_t ulOffset = 99;
-    ASSERT_TRUE(st.saveData(vecImage.data(), 64, &ulOffset));
-    EXPECT_EQ(ulOffset, 64u);
-    EXPECT_EQ(vecImage, vecExpected);
-    SZelSatPosVel stRead;
-    ASSERT_TRUE(stRead.loadData(vecExpected.data(), 64, &ulOffset));
-    EXPECT_EQ(stRead, st);
-    EXPECT_EQ(hook.Count(), 0u);
-    ulOffset = 99;
-    EXPECT_FALSE(st.saveData(vecImage.data(), 63, &ulOffset));
-    EXPECT_EQ(ulOffset, 0u);
-    EXPECT_FALSE(stRead.loadData(vecExpected.data(), 63, &ulOffset));
-    EXPECT_FALSE(st.saveData(nullptr, 64, &ulOffset));
-    EXPECT_FALSE(stRead.loadData(nullptr, 64, &ulOffset));
-    EXPECT_EQ(hook.Texts(), std::vector<std::string>(4, c_strFalse));
-
-    std::ostringstream oss;
-    oss << st;
-    EXPECT_EQ(oss.str(), "Pos, 1.5, -2.5, 3.5, Vel, 0.25, -0.125, 8, Rng, 21000000.5, RngRate, -512.25");
-    std::istringstream iss(oss.str());
-    SZelSatPosVel stText;
-    iss >> stText;
-    EXPECT_FALSE(iss.fail());
-    EXPECT_EQ(stText, st);
+TEST(SatPosVel, BinaryGoldenAndText)
+{
+    CImage stImage;
+    stImage.At(0).F64(1.5).F64(-2.5).F64(3.5);
+    stImage.At(24).F64(0.25).F64(-0.125).F64(8.0);
+    stImage.At(48).F64(21000000.5).At(56).F64(-512.25);
+    ZelTest::ExpectCoreImage(ZelSample::SatPosVel(), stImage);
+    ZelTest::ExpectTextExact(ZelSample::SatPosVel(),
+                             "Pos, 1.5, -2.5, 3.5, Vel, 0.25, -0.125, 8, Rng, 21000000.5, RngRate, -512.25");
 }
 
 // ===================================================================== SZelVector3d
@@ -1567,41 +1492,24 @@ TEST(Vector3d, DefaultAndEquality)
 
 TEST(Vector3d, BinaryGolden)
 {
-    const SZelVector3d st(-1.5, 2.25, 1e10);
-    std::vector<unsigned char> vecExpected(24, 0);
-    Put<double>(vecExpected, 0, -1.5);
-    Put<double>(vecExpected, 8, 2.25);
-    Put<double>(vecExpected, 16, 1e10);
-    CRecordingHook hook;
-    std::vector<unsigned char> vecImage(24, 0xEE);
-    uint64_t ulOffset = 99;
-    ASSERT_TRUE(st.saveData(vecImage.data(), 24, &ulOffset));
-    EXPECT_EQ(ulOffset, 24u);
-    EXPECT_EQ(vecImage, vecExpected);
+    const ZelTest::Bytes vecExpected = CImage().At(0).F64(-1.5).At(8).F64(2.25).At(16).F64(1e10).Get();
+    ZelTest::ExpectCoreImage(ZelSample::Vector3d(), vecExpected, ZelTest::SCoreRules(),
+                             SZelVector3d(7.0, 8.0, 9.0));
+    // Equality is tolerant: the values read are checked exactly.
     SZelVector3d stRead;
-    ulOffset = 99;
+    uint64_t ulOffset = 99;
     ASSERT_TRUE(stRead.loadData(vecExpected.data(), 24, &ulOffset));
-    EXPECT_EQ(ulOffset, 24u);
     EXPECT_EQ(stRead.dX, -1.5);
     EXPECT_EQ(stRead.dY, 2.25);
     EXPECT_EQ(stRead.dZ, 1e10);
-    EXPECT_EQ(hook.Count(), 0u);
-    ulOffset = 99;
-    EXPECT_FALSE(st.saveData(vecImage.data(), 23, &ulOffset));
-    EXPECT_EQ(ulOffset, 0u);
-    SZelVector3d stUntouched(7.0, 8.0, 9.0);
-    EXPECT_FALSE(stUntouched.loadData(vecExpected.data(), 23, &ulOffset));
-    EXPECT_EQ(stUntouched, SZelVector3d(7.0, 8.0, 9.0));
-    EXPECT_FALSE(st.saveData(nullptr, 24, &ulOffset));
-    EXPECT_FALSE(stUntouched.loadData(nullptr, 24, &ulOffset));
-    EXPECT_EQ(hook.Texts(), std::vector<std::string>(4, c_strFalse));
 }
 
 TEST(Vector3d, Text)
 {
+    ZelTest::ExpectText(SZelVector3d(1.5, -2.0, c_dPi), "1.5, -2, 3.14159265359");
+    ZelTest::ExpectTextExact(ZelSample::Vector3dLine(), "1.5, -2, 3.25");
     std::ostringstream oss;
     oss << SZelVector3d(1.5, -2.0, c_dPi);
-    EXPECT_EQ(oss.str(), "1.5, -2, 3.14159265359");
     EXPECT_EQ(oss.precision(), 12);
     std::istringstream iss("4517590.87881, -0.25, 1e-07");
     SZelVector3d st;
@@ -1651,51 +1559,24 @@ TEST(MasterCoordinate, DefaultAndEquality)
 
 TEST(MasterCoordinate, BinaryGolden)
 {
-    SZelMasterCoordinate st;
-    st.eCooSys = ZELCOORDINATESYSTEM_LOCGEO;
-    st.usStnId = 0x1234;
-    st.usReserved = 0xBEEF;
-    st.stMstCoo = SZelVector3d(-0.5, 1.75, 321.0);
-    std::vector<unsigned char> vecExpected(32, 0);
-    Put<int32_t>(vecExpected, 0, 2);
-    Put<uint16_t>(vecExpected, 4, 0x1234);
-    Put<uint16_t>(vecExpected, 6, 0xBEEF);
-    Put<double>(vecExpected, 8, -0.5);
-    Put<double>(vecExpected, 16, 1.75);
-    Put<double>(vecExpected, 24, 321.0);
-
-    CRecordingHook hook;
-    std::vector<unsigned char> vecImage(32, 0xEE);
-    uint64_t ulOffset = 99;
-    ASSERT_TRUE(st.saveData(vecImage.data(), 32, &ulOffset));
-    EXPECT_EQ(ulOffset, 32u);
-    EXPECT_EQ(vecImage, vecExpected);
+    CImage stImage;
+    stImage.At(0).I32(2).At(4).U16(0x1234).At(6).U16(0xBEEF);
+    stImage.At(8).F64(-0.5).F64(1.75).F64(321.0);
+    const ZelTest::Bytes vecExpected = stImage.Get();
+    ZelTest::SCoreRules stRules;
+    stRules.eCountRule = ZelTest::eCOUNT_KEPT;
+    ZelTest::ExpectCoreImage(ZelSample::MasterCoordinate(), vecExpected, stRules);
+    // The reserved bytes take no part in equality: they are read as they stand.
     SZelMasterCoordinate stRead;
-    ulOffset = 99;
+    uint64_t ulOffset = 99;
     ASSERT_TRUE(stRead.loadData(vecExpected.data(), 32, &ulOffset));
-    EXPECT_EQ(ulOffset, 32u);
-    EXPECT_EQ(stRead, st);
     EXPECT_EQ(stRead.usReserved, 0xBEEF);
-    EXPECT_EQ(hook.Count(), 0u);
-
-    ulOffset = 99;
-    EXPECT_FALSE(st.saveData(vecImage.data(), 31, &ulOffset));
-    EXPECT_EQ(ulOffset, 99u);
-    SZelMasterCoordinate stUntouched;
-    EXPECT_FALSE(stUntouched.loadData(vecExpected.data(), 31, &ulOffset));
-    EXPECT_EQ(ulOffset, 99u);
-    EXPECT_EQ(stUntouched, SZelMasterCoordinate());
-    EXPECT_FALSE(st.saveData(nullptr, 32, &ulOffset));
-    EXPECT_FALSE(stUntouched.loadData(nullptr, 32, &ulOffset));
-    EXPECT_EQ(hook.Texts(), std::vector<std::string>(4, c_strFalse));
 }
 
 TEST(MasterCoordinate, Text)
 {
-    SZelMasterCoordinate st;
-    st.eCooSys = ZELCOORDINATESYSTEM_GEOGRAPHIC;
-    st.usStnId = 4095;
-    st.stMstCoo = SZelVector3d(0.5, 0.25, 100.0);
+    const SZelMasterCoordinate st = ZelSample::MasterCoordinateLine();
+    ZelTest::ExpectTextExact(st, ", CooSys, Geo, StnId, 4095, MstCoo, 0.5, 0.25, 100");
     std::ostringstream oss;
     oss << "Prev, 1" << st;
     EXPECT_EQ(oss.str(), "Prev, 1, CooSys, Geo, StnId, 4095, MstCoo, 0.5, 0.25, 100");
@@ -1752,37 +1633,20 @@ TEST(HorizontalOffset, DefaultAndEquality)
 
 TEST(HorizontalOffset, BinaryGolden)
 {
-    const SZelHorizontalOffset st(0.125f, -2.5f);
-    std::vector<unsigned char> vecExpected(8, 0);
-    Put<float>(vecExpected, 0, 0.125f);
-    Put<float>(vecExpected, 4, -2.5f);
-    CRecordingHook hook;
-    std::vector<unsigned char> vecImage(8, 0xEE);
-    uint64_t ulOffset = 99;
-    ASSERT_TRUE(st.saveData(vecImage.data(), 8, &ulOffset));
-    EXPECT_EQ(ulOffset, 8u);
-    EXPECT_EQ(vecImage, vecExpected);
+    const ZelTest::Bytes vecExpected = CImage().At(0).F32(0.125f).At(4).F32(-2.5f).Get();
+    ZelTest::ExpectCoreImage(ZelSample::HorizontalOffset(), vecExpected, ZelTest::SCoreRules(),
+                             SZelHorizontalOffset(1.0f, 1.0f));
+    // Equality is tolerant: the values read are checked exactly.
     SZelHorizontalOffset stRead;
+    uint64_t ulOffset = 99;
     ASSERT_TRUE(stRead.loadData(vecExpected.data(), 8, &ulOffset));
     EXPECT_EQ(stRead.fHrzOffsE, 0.125f);
     EXPECT_EQ(stRead.fHrzOffsN, -2.5f);
-    EXPECT_EQ(hook.Count(), 0u);
-    ulOffset = 99;
-    EXPECT_FALSE(st.saveData(vecImage.data(), 7, &ulOffset));
-    EXPECT_EQ(ulOffset, 0u);
-    SZelHorizontalOffset stUntouched(1.0f, 1.0f);
-    EXPECT_FALSE(stUntouched.loadData(vecExpected.data(), 7, &ulOffset));
-    EXPECT_EQ(stUntouched.fHrzOffsE, 1.0f);
-    EXPECT_FALSE(st.saveData(nullptr, 8, &ulOffset));
-    EXPECT_FALSE(stUntouched.loadData(nullptr, 8, &ulOffset));
-    EXPECT_EQ(hook.Texts(), std::vector<std::string>(4, c_strFalse));
 }
 
 TEST(HorizontalOffset, Text)
 {
-    std::ostringstream oss;
-    oss << SZelHorizontalOffset(0.25f, -1.5f);
-    EXPECT_EQ(oss.str(), "HrzOffsE, 0.25, HrzOffsN, -1.5");
+    ZelTest::ExpectTextExact(ZelSample::HorizontalOffsetLine(), "HrzOffsE, 0.25, HrzOffsN, -1.5");
     std::istringstream iss("E, 0.0125, N, 3");
     SZelHorizontalOffset st;
     iss >> st;

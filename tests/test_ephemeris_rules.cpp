@@ -2,8 +2,6 @@
 // intervals, transmission time, BeiDou week and issue of data, Galileo and
 // NavIC full times, accuracy tables.
 
-#include <ZelTypes/Ext/Gnss/ZelExtEphTypes.h>
-
 #include "test_ephemeris_support.h"
 
 #include <gtest/gtest.h>

@@ -1,9 +1,12 @@
 // Observation epochs and the measurement engine's output records: header,
 // epoch, correction keys and maps, output batches, the station record and the
 // external epoch; binary images by the offset tables, text forms, bounds
-// tests on the present content, and the partial reset.
+// tests on the present content, the partial reset, and the readers'
+// allocation in proportion to their input.
 
-#include "ZelTestHooks.h"
+#include "ZelAllocCounter.h"
+#include "ZelSamplesObservations.h"
+#include "ZelTestKit.h"
 
 #include <ZelTypes/Core/Common/ZelObsEpoch.h>
 #include <ZelTypes/Ext/Gnss/ZelExtObsTypes.h>
@@ -19,248 +22,156 @@
 #include <vector>
 
 using namespace ZELN;
+using ZelSample::SatObs;
+using ZelTest::Bytes;
+using ZelTest::CImage;
 
 namespace
 {
 
-typedef std::vector<unsigned char> Bytes;
-
+// A value patched into an image at an offset.
 template <class T> void Put(Bytes& vecImage, size_t ulOffset, T tValue)
 {
     std::memcpy(&vecImage[ulOffset], &tValue, sizeof(T));
 }
 
-template <class T> void Append(Bytes& vecImage, T tValue)
+// ---- hand-made images, by the offset tables
+
+// The header, 96 bytes: times as 24-byte blocks at 8 and 72.
+Bytes HeaderImage(const SZelObservationEpochHeader& r)
 {
-    const size_t ulAt = vecImage.size();
-    vecImage.resize(ulAt + sizeof(T));
-    Put(vecImage, ulAt, tValue);
+    const SMjdTime& rT = r.stTime;
+    const SMjdTime& rF = r.stFirstStaticMarkEpoch;
+    CImage stImage;
+    stImage.At(0).U8(r.ucTag0).At(1).U8(r.ucTag1).Zero(6);
+    stImage.At(8).Time24(rT.m_lMjdDay, rT.m_dMjdFractMilliseconds, rT.m_eAccuracy);
+    stImage.At(32).U8(r.ucNumSats).Zero(7).At(40).F64(r.dClockOffset).At(48).F64(r.dTimeStampOffset);
+    stImage.At(56).U32(r.ulDopplerRate).At(60).U32(r.ulPositionRate).At(64).I32(r.lSmoothingLength).Zero(4);
+    stImage.At(72).Time24(rF.m_lMjdDay, rF.m_dMjdFractMilliseconds, rF.m_eAccuracy).At(96);
+    return stImage;
 }
 
-void AppendBytes(Bytes& vecImage, const Bytes& vecMore)
+// One signal record, 72 bytes.
+Bytes SignalImage(const SZelFreqObservation& r)
 {
-    vecImage.insert(vecImage.end(), vecMore.begin(), vecMore.end());
+    CImage stImage;
+    stImage.At(0).U32(r.ulObsFlags).At(4).I32(r.eFrequency).At(8).I32(r.eTrackMode).Zero(4);
+    stImage.At(16).F64(r.dPhase).At(24).F64(r.dCode).At(32).F64(r.dDopplerM).At(40).F64(r.dDopplerC);
+    stImage.At(48).U16(r.unContMeasCount10Msec).At(50).U16(r.unCNo).At(52).U16(r.unPhaseRms100thMm);
+    stImage.At(54).U16(r.unRangeRmsMm).At(56).I16(r.nTimeOffsetRTCM9).Zero(2);
+    stImage.At(60).F32(r.fVelocity).At(64).F32(r.fAcceleration).Zero(4).At(72);
+    return stImage;
 }
 
-SZelFreqObservation MakeSignal(uint32_t ulFlags, int32_t lFrq, int32_t lMode, double dBase)
+// A satellite: the 15-byte head, then the filled signal records.
+Bytes SatImage(const SZelSatObservation& r)
 {
-    SZelFreqObservation stObs;
-    stObs.ulObsFlags = ulFlags;
-    stObs.eFrequency = static_cast<EZelFrequency>(lFrq);
-    stObs.eTrackMode = static_cast<EZelTrackMode>(lMode);
-    stObs.dPhase = dBase + 0.125;
-    stObs.dCode = dBase / 3.0;
-    stObs.dDopplerM = -1234.5;
-    stObs.dDopplerC = 17.25;
-    stObs.unContMeasCount10Msec = 1000;
-    stObs.unCNo = 451;
-    stObs.unPhaseRms100thMm = 12;
-    stObs.unRangeRmsMm = 300;
-    stObs.nTimeOffsetRTCM9 = -5;
-    stObs.fVelocity = 1.5f;
-    stObs.fAcceleration = -0.25f;
-    return stObs;
-}
-
-SZelSatObservation MakeSat(EZelSatSystem eSys, uint8_t uiNumber, uint8_t uiNumFreq, uint32_t ulFlags = 0x2F)
-{
-    SZelSatObservation stSat;
-    stSat.stSatId = SZelSatID(eSys, uiNumber);
-    stSat.ulIOD = 1000u + uiNumber;
-    stSat.ucSatFlags = static_cast<uint8_t>(uiNumber * 3);
-    stSat.ucChannel = uiNumber;
-    stSat.uiNumFreq = uiNumFreq;
-    for (uint8_t uiIdx = 0; uiIdx < uiNumFreq && uiIdx < 6; ++uiIdx)
+    CImage stImage;
+    stImage.At(0).I32(r.stSatId.eSatSystem).At(4).U8(r.stSatId.uiSatNumber).Zero(3).At(8).U32(r.ulIOD);
+    stImage.At(12).U8(r.ucSatFlags).At(13).U8(r.ucChannel).At(14).U8(r.uiNumFreq).At(15);
+    for (size_t ulIdx = 0; ulIdx < r.uiNumFreq; ++ulIdx)
     {
-        stSat.astFreqObs[uiIdx] =
-            MakeSignal(ulFlags, 1 + uiIdx, 3 + uiIdx, 2.0e7 + 1000.0 * uiNumber + uiIdx);
+        stImage.Append(SignalImage(r.astFreqObs[ulIdx]));
     }
-    return stSat;
+    return stImage;
 }
 
-// A header with every field set.
-SZelObservationEpochHeader MakeHeader()
+// The header, the count at 96, the satellites from 100.
+Bytes EpochImage(const SZelObservationEpoch& r)
 {
-    SZelObservationEpochHeader stHeader;
-    stHeader.ucTag0 = 0xA5;
-    stHeader.ucTag1 = 0x5A;
-    stHeader.stTime.m_lMjdDay = 60000;
-    stHeader.stTime.m_dMjdFractMilliseconds = 43200000.5;
-    stHeader.ucNumSats = 5;
-    stHeader.dClockOffset = 0.000125;
-    stHeader.dTimeStampOffset = -0.5;
-    stHeader.ulDopplerRate = 500;
-    stHeader.ulPositionRate = 200;
-    stHeader.lSmoothingLength = -100;
-    stHeader.stFirstStaticMarkEpoch.m_lMjdDay = 59999;
-    stHeader.stFirstStaticMarkEpoch.m_dMjdFractMilliseconds = 1000.0;
-    return stHeader;
-}
-
-// Several systems, one to six signals each.
-SZelObservationEpoch MakeEpoch()
-{
-    SZelObservationEpoch stEpoch;
-    stEpoch.stZelObservationEpochHeader = MakeHeader();
-    stEpoch.vecSatObs.push_back(MakeSat(ZELSATSYSTEM_GPS, 5, 1));
-    stEpoch.vecSatObs.push_back(MakeSat(ZELSATSYSTEM_GLONASS, 24, 2));
-    stEpoch.vecSatObs.push_back(MakeSat(ZELSATSYSTEM_GALILEO, 11, 3));
-    stEpoch.vecSatObs.push_back(MakeSat(ZELSATSYSTEM_BEIDOU, 38, 6));
-    stEpoch.vecSatObs.push_back(MakeSat(ZELSATSYSTEM_SBAS, 20, 1, 0x0));
-    stEpoch.vecSatObs.push_back(MakeSat(ZELSATSYSTEM_QZSS, 3, 4));
-    return stEpoch;
-}
-
-// ---- hand-built images, by the offset tables
-
-void PutTimeBlock(Bytes& vecImage, size_t ulAt, const SMjdTime& rstTime)
-{
-    Put<int32_t>(vecImage, ulAt + 0, rstTime.m_lMjdDay);
-    Put<double>(vecImage, ulAt + 8, rstTime.m_dMjdFractMilliseconds);
-    Put<int32_t>(vecImage, ulAt + 16, rstTime.m_eAccuracy);
-}
-
-Bytes HeaderImage(const SZelObservationEpochHeader& rstHeader)
-{
-    Bytes vecImage(96, 0);
-    Put<uint8_t>(vecImage, 0, rstHeader.ucTag0);
-    Put<uint8_t>(vecImage, 1, rstHeader.ucTag1);
-    PutTimeBlock(vecImage, 8, rstHeader.stTime);
-    Put<uint8_t>(vecImage, 32, rstHeader.ucNumSats);
-    Put<double>(vecImage, 40, rstHeader.dClockOffset);
-    Put<double>(vecImage, 48, rstHeader.dTimeStampOffset);
-    Put<uint32_t>(vecImage, 56, rstHeader.ulDopplerRate);
-    Put<uint32_t>(vecImage, 60, rstHeader.ulPositionRate);
-    Put<int32_t>(vecImage, 64, rstHeader.lSmoothingLength);
-    PutTimeBlock(vecImage, 72, rstHeader.stFirstStaticMarkEpoch);
-    return vecImage;
-}
-
-Bytes SatImage(const SZelSatObservation& rstSat)
-{
-    Bytes vecImage(15 + 72 * static_cast<size_t>(rstSat.uiNumFreq), 0);
-    Put<int32_t>(vecImage, 0, rstSat.stSatId.eSatSystem);
-    Put<uint8_t>(vecImage, 4, rstSat.stSatId.uiSatNumber);
-    Put<uint32_t>(vecImage, 8, rstSat.ulIOD);
-    Put<uint8_t>(vecImage, 12, rstSat.ucSatFlags);
-    Put<uint8_t>(vecImage, 13, rstSat.ucChannel);
-    Put<uint8_t>(vecImage, 14, rstSat.uiNumFreq);
-    for (size_t ulIdx = 0; ulIdx < rstSat.uiNumFreq; ++ulIdx)
+    CImage stImage;
+    stImage.Append(HeaderImage(r.stZelObservationEpochHeader)).At(96).U32(r.vecSatObs.size()).At(100);
+    for (const SZelSatObservation& rstSat : r.vecSatObs)
     {
-        const size_t ulAt = 15 + 72 * ulIdx;
-        const SZelFreqObservation& rstObs = rstSat.astFreqObs[ulIdx];
-        Put<uint32_t>(vecImage, ulAt + 0, rstObs.ulObsFlags);
-        Put<int32_t>(vecImage, ulAt + 4, rstObs.eFrequency);
-        Put<int32_t>(vecImage, ulAt + 8, rstObs.eTrackMode);
-        Put<double>(vecImage, ulAt + 16, rstObs.dPhase);
-        Put<double>(vecImage, ulAt + 24, rstObs.dCode);
-        Put<double>(vecImage, ulAt + 32, rstObs.dDopplerM);
-        Put<double>(vecImage, ulAt + 40, rstObs.dDopplerC);
-        Put<uint16_t>(vecImage, ulAt + 48, rstObs.unContMeasCount10Msec);
-        Put<uint16_t>(vecImage, ulAt + 50, rstObs.unCNo);
-        Put<uint16_t>(vecImage, ulAt + 52, rstObs.unPhaseRms100thMm);
-        Put<uint16_t>(vecImage, ulAt + 54, rstObs.unRangeRmsMm);
-        Put<int16_t>(vecImage, ulAt + 56, rstObs.nTimeOffsetRTCM9);
-        Put<float>(vecImage, ulAt + 60, rstObs.fVelocity);
-        Put<float>(vecImage, ulAt + 64, rstObs.fAcceleration);
+        stImage.Append(SatImage(rstSat));
     }
-    return vecImage;
+    return stImage;
 }
 
-Bytes EpochImage(const SZelObservationEpoch& rstEpoch)
-{
-    Bytes vecImage = HeaderImage(rstEpoch.stZelObservationEpochHeader);
-    Append<uint32_t>(vecImage, static_cast<uint32_t>(rstEpoch.vecSatObs.size()));
-    for (const SZelSatObservation& rstSat : rstEpoch.vecSatObs)
-    {
-        AppendBytes(vecImage, SatImage(rstSat));
-    }
-    return vecImage;
-}
-
+// Correction entry, 28 bytes, the value unaligned at 20.
 Bytes CorrectionEntry(const SZelCorrectionKey& rstKey, double dValue)
 {
-    Bytes vecEntry(28, 0);
-    Put<int32_t>(vecEntry, 0, rstKey.stSatId.eSatSystem);
-    Put<uint8_t>(vecEntry, 4, rstKey.stSatId.uiSatNumber);
-    Put<int32_t>(vecEntry, 8, rstKey.eFrequency);
-    Put<uint8_t>(vecEntry, 12, rstKey.bTrackModeY ? 1 : 0);
-    Put<int32_t>(vecEntry, 16, rstKey.eCorrType);
-    Put<double>(vecEntry, 20, dValue); // unaligned
-    return vecEntry;
+    CImage stImage;
+    stImage.At(0).I32(rstKey.stSatId.eSatSystem).At(4).U8(rstKey.stSatId.uiSatNumber).Zero(3);
+    stImage.At(8).I32(rstKey.eFrequency).At(12).U8(rstKey.bTrackModeY ? 1 : 0).Zero(3);
+    stImage.At(16).I32(rstKey.eCorrType).At(20).F64(dValue).At(28);
+    return stImage;
 }
 
+// Range rate entry, 16 bytes.
 Bytes RangeRateEntry(const SZelSatID& rstSatId, double dValue)
 {
-    Bytes vecEntry(16, 0);
-    Put<int32_t>(vecEntry, 0, rstSatId.eSatSystem);
-    Put<uint8_t>(vecEntry, 4, rstSatId.uiSatNumber);
-    Put<double>(vecEntry, 8, dValue);
-    return vecEntry;
+    return CImage().At(0).I32(rstSatId.eSatSystem).At(4).U8(rstSatId.uiSatNumber).Zero(3).At(8).F64(dValue);
 }
 
-// Entries follow the map's own iteration order.
-Bytes RtmeImage(const SZelRtmeOutEpochData& rstData)
+// The epoch, station counts, clock, then the entries in the map's own
+// iteration order.
+Bytes RtmeImage(const SZelRtmeOutEpochData& r)
 {
-    Bytes vecImage = EpochImage(rstData.stObs);
-    for (int32_t lStations : rstData.alStationsUsed)
+    CImage stImage;
+    stImage.Append(EpochImage(r.stObs));
+    const size_t ulAt = stImage.Size();
+    stImage.At(ulAt).I32(r.alStationsUsed[0]).I32(r.alStationsUsed[1]).I32(r.alStationsUsed[2]);
+    stImage.I32(r.alStationsUsed[3]).At(ulAt + 16).F64(r.dClock).At(ulAt + 24).U32(r.mapCorrections.size());
+    for (const auto& rEntry : r.mapCorrections)
     {
-        Append<int32_t>(vecImage, lStations);
+        stImage.Append(CorrectionEntry(rEntry.first, rEntry.second));
     }
-    Append<double>(vecImage, rstData.dClock);
-    Append<uint32_t>(vecImage, static_cast<uint32_t>(rstData.mapCorrections.size()));
-    for (const auto& rEntry : rstData.mapCorrections)
+    stImage.U32(r.mapRangeRates.size());
+    for (const auto& rEntry : r.mapRangeRates)
     {
-        AppendBytes(vecImage, CorrectionEntry(rEntry.first, rEntry.second));
+        stImage.Append(RangeRateEntry(rEntry.first, rEntry.second));
     }
-    Append<uint32_t>(vecImage, static_cast<uint32_t>(rstData.mapRangeRates.size()));
-    for (const auto& rEntry : rstData.mapRangeRates)
+    return stImage;
+}
+
+// The station record, 40 bytes.
+Bytes ObsInfoImage(const SZelObsInfo& r)
+{
+    const SMjdTime& rT = r.stStaticSince;
+    CImage stImage;
+    stImage.At(0).Time24(rT.m_lMjdDay, rT.m_dMjdFractMilliseconds, rT.m_eAccuracy);
+    stImage.At(24).U8(r.ucTimeStatus).Zero(1).At(26).U16(r.unObsFlags).At(28).U8(r.ucDataFlags);
+    stImage.At(29).U8(r.ucStationType).Zero(2).At(32).U32(r.ulStationId).Zero(4).At(40);
+    return stImage;
+}
+
+// ---- targets of the same shape as a sample with other values: one byte
+// short fails at their first bounds test, and a load overwrites them whole.
+
+void Perturb(SZelObservationEpoch& r)
+{
+    r.stZelObservationEpochHeader.ucTag0 = 1;
+    r.stZelObservationEpochHeader.stTime.m_lMjdDay = 12;
+    for (SZelSatObservation& rstSat : r.vecSatObs)
     {
-        AppendBytes(vecImage, RangeRateEntry(rEntry.first, rEntry.second));
+        rstSat.ucChannel = static_cast<uint8_t>(rstSat.ucChannel + 1);
+        for (SZelFreqObservation& rstObs : rstSat.astFreqObs)
+        {
+            rstObs.dPhase += 1.0;
+        }
     }
-    return vecImage;
 }
 
-Bytes ObsInfoImage(const SZelObsInfo& rstInfo)
+void Perturb(SZelRtmeOutEpochData& r)
 {
-    Bytes vecImage(40, 0);
-    PutTimeBlock(vecImage, 0, rstInfo.stStaticSince);
-    Put<uint8_t>(vecImage, 24, rstInfo.ucTimeStatus);
-    Put<uint16_t>(vecImage, 26, rstInfo.unObsFlags);
-    Put<uint8_t>(vecImage, 28, rstInfo.ucDataFlags);
-    Put<uint8_t>(vecImage, 29, rstInfo.ucStationType);
-    Put<uint32_t>(vecImage, 32, rstInfo.ulStationId);
-    return vecImage;
+    Perturb(r.stObs);
+    r.alStationsUsed[2] = 77;
+    r.dClock += 1.0;
+    for (auto& rEntry : r.mapCorrections)
+    {
+        rEntry.second += 1.0;
+    }
+    for (auto& rEntry : r.mapRangeRates)
+    {
+        rEntry.second += 1.0;
+    }
 }
 
-SZelRtmeOutEpochData MakeRtme()
+template <class R> R Perturbed(R tRecord)
 {
-    SZelRtmeOutEpochData stData;
-    stData.stObs = MakeEpoch();
-    stData.alStationsUsed[0] = 3;
-    stData.alStationsUsed[1] = 2;
-    stData.alStationsUsed[2] = 1;
-    stData.alStationsUsed[3] = -1;
-    stData.dClock = 1.5e-7;
-    stData.AddCorrection(ZELCORRTYPE_PCV, SZelSatID(ZELSATSYSTEM_GPS, 5), ZELFREQUENCY_L1CA, false, 0.0125);
-    stData.AddCorrection(ZELCORRTYPE_PCO, SZelSatID(ZELSATSYSTEM_GALILEO, 11), ZELFREQUENCY_E6, true, -0.5);
-    stData.AddCorrection(ZELCORRTYPE_POF, SZelSatID(ZELSATSYSTEM_BEIDOU, 38), ZELFREQUENCY_E5B, false, 3.25);
-    stData.AddRangeRate(SZelSatID(ZELSATSYSTEM_GPS, 5), 100.5);
-    stData.AddRangeRate(SZelSatID(ZELSATSYSTEM_GLONASS, 24), -312.75);
-    return stData;
-}
-
-SZelObsInfo MakeObsInfo()
-{
-    SZelObsInfo stInfo;
-    stInfo.stStaticSince.m_lMjdDay = 59000;
-    stInfo.stStaticSince.m_dMjdFractMilliseconds = 3600000.25;
-    stInfo.ucTimeStatus = 160;
-    stInfo.unObsFlags = 0xBEEF;
-    stInfo.ucDataFlags = 3;
-    stInfo.ucStationType = 2;
-    stInfo.ulStationId = 123456;
-    return stInfo;
+    Perturb(tRecord);
+    return tRecord;
 }
 
 template <class R> Bytes Save(const R& rRecord, uint64_t* pulUsed = nullptr)
@@ -285,6 +196,11 @@ template <class R> std::string ToText(const R& rRecord)
 const std::vector<std::string> c_vecOneFalse = {"false"};
 const std::vector<std::string> c_vecTwoFalse = {"false", "false"};
 
+// The header's line at the default precision of a fresh stream.
+const std::string c_strHeaderText =
+    "165, 90, 2250, 5.616e+08, NumSats, 5, ClkOffs, 0.000125, TimeStampOffs, -0.5, "
+    "DoppRate, 500, PosRate, 200, SmooLgth, -100, 1stStatMrkEpoch, 2250, 432001";
+
 } // namespace
 
 // ---------------------------------------------------------------------------
@@ -293,7 +209,7 @@ const std::vector<std::string> c_vecTwoFalse = {"false", "false"};
 
 TEST(EpochHeader, DefaultsAndReset)
 {
-    SZelObservationEpochHeader stHeader = MakeHeader();
+    SZelObservationEpochHeader stHeader = ZelSample::EpochHeader();
     stHeader.stTime.m_eAccuracy = MJDACC_HOUR;
     stHeader.Reset();
     EXPECT_EQ(stHeader.ucTag0, 0);
@@ -316,59 +232,24 @@ TEST(EpochHeader, DefaultsAndReset)
 
 TEST(EpochHeader, GoldenImage)
 {
-    const SZelObservationEpochHeader stHeader = MakeHeader();
-    Bytes vecExpected(96, 0);
-    vecExpected[0] = 0xA5;
-    vecExpected[1] = 0x5A;
-    Put<int32_t>(vecExpected, 8, 60000);
-    Put<double>(vecExpected, 16, 43200000.5);
-    Put<int32_t>(vecExpected, 24, 0);
-    vecExpected[32] = 5;
-    Put<double>(vecExpected, 40, 0.000125);
-    Put<double>(vecExpected, 48, -0.5);
-    Put<uint32_t>(vecExpected, 56, 500);
-    Put<uint32_t>(vecExpected, 60, 200);
-    Put<int32_t>(vecExpected, 64, -100);
-    Put<int32_t>(vecExpected, 72, 59999);
-    Put<double>(vecExpected, 80, 1000.0);
-    Put<int32_t>(vecExpected, 88, 1);
-
-    ZelTest::CRecordingHook stHook;
-    Bytes vecOut(96, 0xAA);
-    uint64_t ulUsed = 0;
-    ASSERT_TRUE(stHeader.saveData(vecOut.data(), vecOut.size(), &ulUsed));
-    EXPECT_EQ(ulUsed, 96u);
-    EXPECT_EQ(vecOut, vecExpected);
+    CImage stExpected;
+    stExpected.At(0).U8(0xA5).U8(0x5A).Zero(6).At(8).Time24(60000, 43200000.5, 0);
+    stExpected.At(32).U8(5).Zero(7).At(40).F64(0.000125).At(48).F64(-0.5);
+    stExpected.At(56).U32(500).At(60).U32(200).At(64).I32(-100).Zero(4);
+    stExpected.At(72).Time24(59999, 1000.0, 1).At(96);
+    ZelTest::ExpectCoreImage(ZelSample::EpochHeader(), stExpected);
+    EXPECT_EQ(c_ulOBSEPOCH_HEADER_SIZE, SZelObservationEpochHeader().getSize());
 
     SZelObservationEpochHeader stBack;
-    ASSERT_TRUE(stBack.loadData(vecExpected.data(), vecExpected.size(), &ulUsed));
-    EXPECT_EQ(ulUsed, 96u);
-    EXPECT_TRUE(stBack == stHeader);
+    uint64_t ulUsed = 0;
+    ASSERT_TRUE(stBack.loadData(stExpected.Get().data(), stExpected.Size(), &ulUsed));
     EXPECT_EQ(stBack.stTime.m_eAccuracy, MJDACC_EXACT);
     EXPECT_EQ(stBack.stFirstStaticMarkEpoch.m_eAccuracy, MJDACC_NANOSECOND);
-    EXPECT_EQ(stHook.Count(), 0u);
-}
-
-TEST(EpochHeader, ShortAndNullBuffers)
-{
-    const SZelObservationEpochHeader stHeader = MakeHeader();
-    Bytes vecOut(96, 0xAA);
-    ZelTest::CRecordingHook stHook;
-    uint64_t ulUsed = 7;
-    EXPECT_FALSE(stHeader.saveData(vecOut.data(), 95, &ulUsed));
-    EXPECT_EQ(ulUsed, 0u);
-    EXPECT_EQ(vecOut, Bytes(96, 0xAA));
-    EXPECT_FALSE(stHeader.saveData(nullptr, 96, &ulUsed));
-    SZelObservationEpochHeader stBack;
-    EXPECT_FALSE(stBack.loadData(vecOut.data(), 95, &ulUsed));
-    EXPECT_FALSE(stBack.loadData(nullptr, 96, &ulUsed));
-    EXPECT_TRUE(stBack == SZelObservationEpochHeader());
-    EXPECT_EQ(stHook.Texts(), (std::vector<std::string>{"false", "false", "false", "false"}));
 }
 
 TEST(EpochHeader, AccuracyOutsideTheEnumerationLoadsAsItStands)
 {
-    Bytes vecImage = HeaderImage(MakeHeader());
+    Bytes vecImage = HeaderImage(ZelSample::EpochHeader());
     Put<int32_t>(vecImage, 24, 77);
     Put<int32_t>(vecImage, 88, -1);
     vecImage[2] = 0xFF; // reserved bytes are passed over
@@ -384,7 +265,7 @@ TEST(EpochHeader, AccuracyOutsideTheEnumerationLoadsAsItStands)
 
 TEST(EpochHeader, ComparisonFieldByFieldAndTimesWithTolerance)
 {
-    const SZelObservationEpochHeader stA = MakeHeader();
+    const SZelObservationEpochHeader stA = ZelSample::EpochHeader();
     SZelObservationEpochHeader stB = stA;
     EXPECT_TRUE(stA == stB);
     stB.ucTag0 = 1;
@@ -437,7 +318,9 @@ TEST(EpochHeader, ComparisonFieldByFieldAndTimesWithTolerance)
 
 TEST(EpochHeaderText, ExactStringAndReadBack)
 {
-    const SZelObservationEpochHeader stHeader = MakeHeader();
+    const SZelObservationEpochHeader stHeader = ZelSample::EpochHeader();
+    ZelTest::ExpectText(stHeader, c_strHeaderText);
+    // At 12 digits the line holds the record.
     std::ostringstream oss;
     oss << std::setprecision(12) << stHeader;
     EXPECT_EQ(oss.str(), "165, 90, 2250, 561600000.5, NumSats, 5, ClkOffs, 0.000125, TimeStampOffs, -0.5, "
@@ -456,7 +339,7 @@ TEST(EpochHeaderText, ExactStringAndReadBack)
 TEST(EpochHeaderText, WeekLimitsOfTheReader)
 {
     ZelTest::CRecordingHook stHook;
-    SZelObservationEpochHeader stHeader = MakeHeader();
+    SZelObservationEpochHeader stHeader = ZelSample::EpochHeader();
     std::istringstream iss(
         "1, 2, 5966, 1000, NumSats, 3, ClkOffs, 0, TimeStampOffs, 0, DoppRate, 1, PosRate, 1, "
         "SmooLgth, 0, 1stStatMrkEpoch, 5965, 604800");
@@ -473,7 +356,7 @@ TEST(EpochHeaderText, WeekLimitsOfTheReader)
 
     std::istringstream iss2("1, 2, 5965, 604800000, NumSats, 3, ClkOffs, 0, TimeStampOffs, 0, DoppRate, 1, "
                             "PosRate, 1, SmooLgth, 0, 1stStatMrkEpoch, 2000, 604800.5");
-    stHeader = MakeHeader();
+    stHeader = ZelSample::EpochHeader();
     iss2 >> stHeader;
     EXPECT_EQ(stHeader.stTime.m_lMjdDay, 5965 * 7 + 44244 + 7);
     EXPECT_EQ(stHeader.stTime.m_eAccuracy, MJDACC_EXACT);
@@ -481,7 +364,7 @@ TEST(EpochHeaderText, WeekLimitsOfTheReader)
     EXPECT_EQ(stHeader.stFirstStaticMarkEpoch.m_eAccuracy, MJDACC_NANOSECOND);
     std::istringstream iss3("1, 2, 100, -1, NumSats, 3, ClkOffs, 0, TimeStampOffs, 0, DoppRate, 1, "
                             "PosRate, 1, SmooLgth, 0, 1stStatMrkEpoch, 2000, 1");
-    stHeader = MakeHeader();
+    stHeader = ZelSample::EpochHeader();
     iss3 >> stHeader;
     EXPECT_EQ(stHeader.stTime.m_lMjdDay, 0);
     EXPECT_EQ(stHeader.stTime.m_eAccuracy, MJDACC_NANOSECOND);
@@ -494,26 +377,18 @@ TEST(EpochHeaderText, WeekLimitsOfTheReader)
 
 TEST(Epoch, EmptyEpochIsHundredBytes)
 {
-    const SZelObservationEpoch stEpoch;
-    EXPECT_EQ(stEpoch.getSize(), 100u);
-    ZelTest::CRecordingHook stHook;
-    uint64_t ulUsed = 0;
-    const Bytes vecOut = Save(stEpoch, &ulUsed);
-    EXPECT_EQ(ulUsed, 100u);
-    uint32_t ulCount = 99;
-    std::memcpy(&ulCount, &vecOut[96], 4);
-    EXPECT_EQ(ulCount, 0u);
-    EXPECT_EQ(vecOut, EpochImage(stEpoch));
-    SZelObservationEpoch stBack;
-    ulUsed = 0;
-    EXPECT_TRUE(stBack.loadData(vecOut.data(), vecOut.size(), &ulUsed));
-    EXPECT_EQ(ulUsed, 100u);
-    EXPECT_EQ(stHook.Count(), 0u);
+    // The default header: rates 1000 at 56 and 60, accuracies 0 and 1; the count 0 at 96.
+    CImage stExpected;
+    stExpected.At(0).Zero(8).At(8).Time24(0, 0.0, 0).At(32).Zero(24);
+    stExpected.At(56).U32(1000).At(60).U32(1000).Zero(8).At(72).Time24(0, 0.0, 1);
+    stExpected.At(96).U32(0).At(100);
+    ZelTest::ExpectCoreImage(SZelObservationEpoch(), stExpected);
+    EXPECT_EQ(c_ulOBSEPOCH_FIXED_SIZE, SZelObservationEpoch().getSize());
 }
 
 TEST(Epoch, ResetDefaultsKeepAllocationAndSaveSilently)
 {
-    SZelObservationEpoch stEpoch = MakeEpoch();
+    SZelObservationEpoch stEpoch = ZelSample::ObsEpoch();
     stEpoch.vecSatObs.reserve(40);
     const size_t ulCapacity = stEpoch.vecSatObs.capacity();
     stEpoch.Reset();
@@ -536,7 +411,7 @@ TEST(Epoch, VirtualDestructorAndDeepCopy)
     EXPECT_TRUE(std::has_virtual_destructor<SZelObservationEpoch>::value);
     EXPECT_TRUE(std::has_virtual_destructor<SZelRtmeOutEpochData>::value);
     EXPECT_TRUE(std::has_virtual_destructor<SZelOutObservations>::value);
-    const SZelObservationEpoch stEpoch = MakeEpoch();
+    const SZelObservationEpoch stEpoch = ZelSample::ObsEpoch();
     SZelObservationEpoch stCopy(stEpoch);
     EXPECT_TRUE(stCopy == stEpoch);
     EXPECT_NE(stCopy.vecSatObs.data(), stEpoch.vecSatObs.data());
@@ -549,32 +424,20 @@ TEST(Epoch, VirtualDestructorAndDeepCopy)
 
 TEST(EpochBinary, GoldenImageOfSeveralSystems)
 {
-    const SZelObservationEpoch stEpoch = MakeEpoch();
-    // By hand: header, count at 96, satellites from 100.
-    Bytes vecExpected(96, 0);
-    vecExpected[0] = 0xA5;
-    vecExpected[1] = 0x5A;
-    Put<int32_t>(vecExpected, 8, 60000);
-    Put<double>(vecExpected, 16, 43200000.5);
-    vecExpected[32] = 5;
-    Put<double>(vecExpected, 40, 0.000125);
-    Put<double>(vecExpected, 48, -0.5);
-    Put<uint32_t>(vecExpected, 56, 500);
-    Put<uint32_t>(vecExpected, 60, 200);
-    Put<int32_t>(vecExpected, 64, -100);
-    Put<int32_t>(vecExpected, 72, 59999);
-    Put<double>(vecExpected, 80, 1000.0);
-    Put<int32_t>(vecExpected, 88, 1);
-    Append<uint32_t>(vecExpected, 6);
-    size_t ulExpectedSize = 100;
+    const SZelObservationEpoch stEpoch = ZelSample::ObsEpoch();
+    // The header as in its own golden image, the count at 96, satellites from 100.
+    CImage stExpected;
+    stExpected.At(0).U8(0xA5).U8(0x5A).Zero(6).At(8).Time24(60000, 43200000.5, 0);
+    stExpected.At(32).U8(5).Zero(7).At(40).F64(0.000125).At(48).F64(-0.5);
+    stExpected.At(56).U32(500).At(60).U32(200).At(64).I32(-100).Zero(4);
+    stExpected.At(72).Time24(59999, 1000.0, 1).At(96).U32(6).At(100);
     for (const SZelSatObservation& rstSat : stEpoch.vecSatObs)
     {
-        AppendBytes(vecExpected, SatImage(rstSat));
-        ulExpectedSize += 15 + 72 * rstSat.uiNumFreq;
+        stExpected.Append(SatImage(rstSat));
     }
-    EXPECT_EQ(ulExpectedSize, 100u + 6u * 15u + 17u * 72u);
-    ASSERT_EQ(vecExpected.size(), ulExpectedSize);
+    ASSERT_EQ(stExpected.Size(), 100u + 6u * 15u + 17u * 72u);
     // Spot checks of the offsets: the BeiDou satellite's head and last signal.
+    const Bytes& vecExpected = stExpected;
     const size_t ulBeidou = 100 + (15 + 72) + (15 + 144) + (15 + 216);
     EXPECT_EQ(vecExpected[ulBeidou + 4], 38);
     EXPECT_EQ(vecExpected[ulBeidou + 14], 6);
@@ -582,24 +445,12 @@ TEST(EpochBinary, GoldenImageOfSeveralSystems)
     std::memcpy(&lFrq, &vecExpected[ulBeidou + 15 + 5 * 72 + 4], 4);
     EXPECT_EQ(lFrq, 6);
 
-    ZelTest::CRecordingHook stHook;
-    EXPECT_EQ(stEpoch.getSize(), ulExpectedSize);
-    Bytes vecOut(ulExpectedSize, 0xAA);
-    uint64_t ulUsed = 0;
-    ASSERT_TRUE(stEpoch.saveData(vecOut.data(), vecOut.size(), &ulUsed));
-    EXPECT_EQ(ulUsed, ulExpectedSize);
-    EXPECT_EQ(vecOut, vecExpected);
-
-    SZelObservationEpoch stBack;
-    ASSERT_TRUE(stBack.loadData(vecExpected.data(), vecExpected.size(), &ulUsed));
-    EXPECT_EQ(ulUsed, ulExpectedSize);
-    EXPECT_TRUE(stBack == stEpoch);
-    EXPECT_EQ(stHook.Count(), 0u);
+    ZelTest::ExpectCoreImage(stEpoch, vecExpected, ZelTest::SCoreRules(), Perturbed(stEpoch));
 }
 
 TEST(EpochBinary, SaveBoundsReportOnceOrTwice)
 {
-    const SZelObservationEpoch stEpoch = MakeEpoch();
+    const SZelObservationEpoch stEpoch = ZelSample::ObsEpoch();
     Bytes vecOut(static_cast<size_t>(stEpoch.getSize()), 0xAA);
     uint64_t ulUsed = 5;
     {
@@ -626,7 +477,7 @@ TEST(EpochBinary, SaveBoundsReportOnceOrTwice)
 
 TEST(EpochBinary, InvalidTimeReportsAndGoesOn)
 {
-    SZelObservationEpoch stEpoch = MakeEpoch();
+    SZelObservationEpoch stEpoch = ZelSample::ObsEpoch();
     const std::string strCheck = "self.stZelObservationEpochHeader.stTime.IsValid()";
     for (const auto& rTime : {std::make_pair(-1, 0.0), std::make_pair(86000, 0.0),
                               std::make_pair(5, 86400000.0), std::make_pair(5, -0.5)})
@@ -649,7 +500,7 @@ TEST(EpochBinary, InvalidTimeReportsAndGoesOn)
 TEST(EpochBinary, LoadBoundsLookAtThePresentContent)
 {
     const Bytes vecEmpty = EpochImage(SZelObservationEpoch());
-    SZelObservationEpoch stTarget = MakeEpoch();
+    SZelObservationEpoch stTarget = ZelSample::ObsEpoch();
     const SZelObservationEpoch stBefore = stTarget;
     uint64_t ulUsed = 5;
     {
@@ -684,7 +535,7 @@ TEST(EpochBinary, LoadBoundsLookAtThePresentContent)
 
 TEST(EpochBinary, FailingSatelliteLeavesTheVectorResized)
 {
-    const SZelObservationEpoch stEpoch = MakeEpoch();
+    const SZelObservationEpoch stEpoch = ZelSample::ObsEpoch();
     const Bytes vecImage = EpochImage(stEpoch);
     ZelTest::CRecordingHook stHook;
     SZelObservationEpoch stTarget;
@@ -702,26 +553,9 @@ TEST(EpochBinary, FailingSatelliteLeavesTheVectorResized)
     EXPECT_EQ(ulUsed, 100u + (vecImage.size() - 100 - SatImage(stEpoch.vecSatObs[5]).size()));
 }
 
-TEST(EpochBinary, ForgedCountResizesAndFailsWhereTheBufferEnds)
-{
-    SZelObservationEpoch stOne;
-    stOne.vecSatObs.push_back(MakeSat(ZELSATSYSTEM_GPS, 1, 0));
-    Bytes vecImage = EpochImage(stOne);
-    Put<uint32_t>(vecImage, 96, 1000);
-    ZelTest::CRecordingHook stHook;
-    SZelObservationEpoch stTarget;
-    uint64_t ulUsed = 0;
-    EXPECT_FALSE(stTarget.loadData(vecImage.data(), vecImage.size(), &ulUsed));
-    // The second satellite's own bounds test and the epoch's report.
-    EXPECT_EQ(stHook.Texts(), c_vecTwoFalse);
-    EXPECT_EQ(stTarget.vecSatObs.size(), 1000u);
-    EXPECT_TRUE(stTarget.vecSatObs[0] == stOne.vecSatObs[0]);
-    EXPECT_EQ(ulUsed, 115u);
-}
-
 TEST(EpochBinary, SatelliteThatCannotBeWrittenFailsTheEpoch)
 {
-    SZelObservationEpoch stEpoch = MakeEpoch();
+    SZelObservationEpoch stEpoch = ZelSample::ObsEpoch();
     stEpoch.vecSatObs[3].uiNumFreq = 7; // six signals filled
     ZelTest::CRecordingHook stHook;
     Bytes vecOut(static_cast<size_t>(stEpoch.getSize()));
@@ -733,7 +567,7 @@ TEST(EpochBinary, SatelliteThatCannotBeWrittenFailsTheEpoch)
 
 TEST(EpochBinary, RandomAndTruncatedInputSurvive)
 {
-    const Bytes vecImage = EpochImage(MakeEpoch());
+    const Bytes vecImage = EpochImage(ZelSample::ObsEpoch());
     ZelTest::CRecordingHook stHook;
     for (size_t ulLength = 0; ulLength < vecImage.size(); ulLength += 7)
     {
@@ -760,7 +594,7 @@ TEST(EpochBinary, RandomAndTruncatedInputSurvive)
 
 TEST(EpochCompare, HeaderLengthAndOrderMatter)
 {
-    const SZelObservationEpoch stEpoch = MakeEpoch();
+    const SZelObservationEpoch stEpoch = ZelSample::ObsEpoch();
     SZelObservationEpoch stOther = stEpoch;
     EXPECT_TRUE(stOther == stEpoch);
     std::swap(stOther.vecSatObs[0], stOther.vecSatObs[1]);
@@ -780,9 +614,13 @@ TEST(EpochCompare, HeaderLengthAndOrderMatter)
 TEST(EpochText, ExactStringNumSatsTwiceAndReadBack)
 {
     SZelObservationEpoch stEpoch;
-    stEpoch.stZelObservationEpochHeader = MakeHeader();
-    stEpoch.vecSatObs.push_back(MakeSat(ZELSATSYSTEM_GPS, 5, 0));
-    stEpoch.vecSatObs.push_back(MakeSat(ZELSATSYSTEM_GLONASS, 1, 0));
+    stEpoch.stZelObservationEpochHeader = ZelSample::EpochHeader();
+    stEpoch.vecSatObs.push_back(SatObs(ZELSATSYSTEM_GPS, 5, 0));
+    stEpoch.vecSatObs.push_back(SatObs(ZELSATSYSTEM_GLONASS, 1, 0));
+    ZelTest::ExpectText(stEpoch, c_strHeaderText +
+                                     ", NumSats, 2, SatId, G05, IOD, 1005, SatFlgs, 0xf, ChnNum, 5, "
+                                     "NumFrqs, 0, SatId, R01, IOD, 1001, SatFlgs, 0x3, ChnNum, 1, "
+                                     "NumFrqs, 0");
     std::ostringstream oss;
     oss << std::setprecision(12) << stEpoch;
     EXPECT_EQ(oss.str(),
@@ -800,7 +638,7 @@ TEST(EpochText, ExactStringNumSatsTwiceAndReadBack)
 
 TEST(EpochText, FullEpochRoundTrip)
 {
-    const SZelObservationEpoch stEpoch = MakeEpoch();
+    const SZelObservationEpoch stEpoch = ZelSample::ObsEpoch();
     const std::string strText = ToText(stEpoch);
     std::istringstream iss(strText);
     SZelObservationEpoch stBack;
@@ -813,11 +651,11 @@ TEST(EpochText, FullEpochRoundTrip)
 
 TEST(EpochText, CutTextKeepsTheSatellites)
 {
-    const SZelObservationEpoch stEpoch = MakeEpoch();
+    const SZelObservationEpoch stEpoch = ZelSample::ObsEpoch();
     const std::string strText = ToText(stEpoch);
     const size_t ulCut = strText.find(", NumSats, 6");
     ASSERT_NE(ulCut, std::string::npos);
-    SZelObservationEpoch stTarget = MakeEpoch();
+    SZelObservationEpoch stTarget = ZelSample::ObsEpoch();
     stTarget.vecSatObs.resize(2);
     std::istringstream iss(strText.substr(0, ulCut));
     iss >> stTarget;
@@ -968,13 +806,14 @@ TEST(CorrectionKeyText, ExactStringAndReadBack)
 {
     const SZelCorrectionKey stKey(ZELCORRTYPE_VAR, SZelSatID(ZELSATSYSTEM_GALILEO, 7), ZELFREQUENCY_E5AB,
                                   true);
-    std::ostringstream oss;
-    oss << stKey;
-    EXPECT_EQ(oss.str(), "SatId, E07, Frq, 9, TrckModY, 1, CorrTyp, Var");
-    std::istringstream iss(oss.str());
+    ZelTest::ExpectTextExact(stKey, "SatId, E07, Frq, 9, TrckModY, 1, CorrTyp, Var");
+    // Any number but 0 reads as track mode Y.
+    std::istringstream iss("SatId, E07, Frq, 9, TrckModY, 7, CorrTyp, Var");
     SZelCorrectionKey stBack;
     iss >> stBack;
     EXPECT_TRUE(stBack == stKey);
+    // The key's image is 20 bytes, its entry 28 with the value.
+    EXPECT_EQ(ZelIo::SizeOf(stKey) + 8, c_ulCORRECTION_ENTRY_SIZE);
 }
 
 // ---------------------------------------------------------------------------
@@ -995,13 +834,13 @@ TEST(RtmeOut, DefaultsAndPartialReset)
     EXPECT_EQ(stData.mapRangeRates.max_load_factor(), 1.0f);
     EXPECT_EQ(stData.getSize(), 132u);
 
-    stData = MakeRtme();
+    stData = ZelSample::RtmeOut();
     stData.Reset();
     EXPECT_EQ(stData.GetClock(), 0.0);
     EXPECT_TRUE(stData.mapCorrections.empty());
     EXPECT_TRUE(stData.mapRangeRates.empty());
     // Epoch and station counts stay.
-    EXPECT_TRUE(stData.stObs == MakeEpoch());
+    EXPECT_TRUE(stData.stObs == ZelSample::ObsEpoch());
     EXPECT_EQ(stData.alStationsUsed[0], 3);
     EXPECT_EQ(stData.alStationsUsed[3], -1);
 }
@@ -1017,15 +856,15 @@ TEST(RtmeOut, ClockAccessors)
 TEST(RtmeOut, CountSatsWithPhase)
 {
     SZelRtmeOutEpochData stData;
-    SZelSatObservation stSat = MakeSat(ZELSATSYSTEM_GPS, 1, 3, 0x2);
+    SZelSatObservation stSat = SatObs(ZELSATSYSTEM_GPS, 1, 3, 0x2);
     stSat.astFreqObs[2].SetPhase(true);
-    stData.stObs.vecSatObs.push_back(stSat);                                    // counts
-    stData.stObs.vecSatObs.push_back(MakeSat(ZELSATSYSTEM_GPS, 2, 3, 0x2));     // no phase
-    stData.stObs.vecSatObs.push_back(MakeSat(ZELSATSYSTEM_GLONASS, 5, 2, 0x1)); // counts once
-    stData.stObs.vecSatObs.push_back(MakeSat(ZELSATSYSTEM_LOCATA, 5, 1, 0x1));
-    stData.stObs.vecSatObs.push_back(MakeSat(ZELSATSYSTEM_NONE, 0, 1, 0x1));
-    stData.stObs.vecSatObs.push_back(MakeSat(static_cast<EZelSatSystem>(12), 1, 1, 0x1)); // no counter
-    SZelSatObservation stBeyond = MakeSat(ZELSATSYSTEM_GALILEO, 1, 1, 0x0);
+    stData.stObs.vecSatObs.push_back(stSat);                                   // counts
+    stData.stObs.vecSatObs.push_back(SatObs(ZELSATSYSTEM_GPS, 2, 3, 0x2));     // no phase
+    stData.stObs.vecSatObs.push_back(SatObs(ZELSATSYSTEM_GLONASS, 5, 2, 0x1)); // counts once
+    stData.stObs.vecSatObs.push_back(SatObs(ZELSATSYSTEM_LOCATA, 5, 1, 0x1));
+    stData.stObs.vecSatObs.push_back(SatObs(ZELSATSYSTEM_NONE, 0, 1, 0x1));
+    stData.stObs.vecSatObs.push_back(SatObs(static_cast<EZelSatSystem>(12), 1, 1, 0x1)); // no counter
+    SZelSatObservation stBeyond = SatObs(ZELSATSYSTEM_GALILEO, 1, 1, 0x0);
     stBeyond.astFreqObs[1].SetPhase(true); // beyond the count
     stData.stObs.vecSatObs.push_back(stBeyond);
     uint32_t aulCounts[9];
@@ -1114,7 +953,7 @@ TEST(RtmeOutCompare, MapsInAnyOrderAndExactValues)
     stB.AddCorrection(ZELCORRTYPE_PCV, SZelSatID(ZELSATSYSTEM_GPS, 1), ZELFREQUENCY_L1CA, true, 0.0);
     EXPECT_FALSE(stA == stB);
 
-    SZelRtmeOutEpochData stC = MakeRtme();
+    SZelRtmeOutEpochData stC = ZelSample::RtmeOut();
     SZelRtmeOutEpochData stD = stC;
     EXPECT_TRUE(stC == stD);
     stD.alStationsUsed[2] = 9;
@@ -1169,58 +1008,30 @@ TEST(RtmeOut, CopyIsPresizedAssignmentIsNot)
 
 TEST(RtmeOutBinary, GoldenImageWithCorrectionsAndRangeRates)
 {
-    const SZelRtmeOutEpochData stData = MakeRtme();
+    const SZelRtmeOutEpochData stData = ZelSample::RtmeOut();
     const Bytes vecEpoch = EpochImage(stData.stObs);
-    // By hand, entries in the map's iteration order.
-    Bytes vecExpected = vecEpoch;
-    Append<int32_t>(vecExpected, 3);
-    Append<int32_t>(vecExpected, 2);
-    Append<int32_t>(vecExpected, 1);
-    Append<int32_t>(vecExpected, -1);
-    Append<double>(vecExpected, 1.5e-7);
-    Append<uint32_t>(vecExpected, 3);
+    // Entries in the map's iteration order.
+    CImage stExpected;
+    stExpected.Append(vecEpoch).At(vecEpoch.size()).I32(3).I32(2).I32(1).I32(-1).F64(1.5e-7).U32(3);
     for (const auto& rEntry : stData.mapCorrections)
     {
-        Bytes vecEntry(28, 0);
-        Put<int32_t>(vecEntry, 0, rEntry.first.stSatId.eSatSystem);
-        vecEntry[4] = rEntry.first.stSatId.uiSatNumber;
-        Put<int32_t>(vecEntry, 8, rEntry.first.eFrequency);
-        vecEntry[12] = rEntry.first.bTrackModeY ? 1 : 0;
-        Put<int32_t>(vecEntry, 16, rEntry.first.eCorrType);
-        Put<double>(vecEntry, 20, rEntry.second);
-        AppendBytes(vecExpected, vecEntry);
+        stExpected.Append(CorrectionEntry(rEntry.first, rEntry.second));
     }
-    Append<uint32_t>(vecExpected, 2);
+    stExpected.U32(2);
     for (const auto& rEntry : stData.mapRangeRates)
     {
-        Bytes vecEntry(16, 0);
-        Put<int32_t>(vecEntry, 0, rEntry.first.eSatSystem);
-        vecEntry[4] = rEntry.first.uiSatNumber;
-        Put<double>(vecEntry, 8, rEntry.second);
-        AppendBytes(vecExpected, vecEntry);
+        stExpected.Append(RangeRateEntry(rEntry.first, rEntry.second));
     }
-    const size_t ulSize = vecEpoch.size() + 28 * 3 + 16 * (2 + 2);
-    ASSERT_EQ(vecExpected.size(), ulSize);
-
-    ZelTest::CRecordingHook stHook;
-    EXPECT_EQ(stData.getSize(), ulSize);
-    Bytes vecOut(ulSize, 0xAA);
-    uint64_t ulUsed = 0;
-    ASSERT_TRUE(stData.saveData(vecOut.data(), vecOut.size(), &ulUsed));
-    EXPECT_EQ(ulUsed, ulSize);
-    EXPECT_EQ(vecOut, vecExpected);
+    stExpected.At(vecEpoch.size() + 28 * 3 + 16 * (2 + 2));
+    ZelTest::ExpectCoreImage(stData, stExpected, ZelTest::SCoreRules(), Perturbed(stData));
 
     // The unaligned value at 20 of the first correction entry.
     const size_t ulFirstEntry = vecEpoch.size() + 16 + 8 + 4;
     double dValue = 0.0;
-    std::memcpy(&dValue, &vecOut[ulFirstEntry + 20], 8);
+    std::memcpy(&dValue, &stExpected.Get()[ulFirstEntry + 20], 8);
     EXPECT_EQ(dValue, stData.mapCorrections.begin()->second);
-
-    SZelRtmeOutEpochData stBack;
-    ASSERT_TRUE(stBack.loadData(vecExpected.data(), vecExpected.size(), &ulUsed));
-    EXPECT_EQ(ulUsed, ulSize);
-    EXPECT_TRUE(stBack == stData);
-    EXPECT_EQ(stHook.Count(), 0u);
+    EXPECT_EQ(c_ulCORRECTION_ENTRY_SIZE, 28u);
+    EXPECT_EQ(c_ulRANGERATE_ENTRY_SIZE, 16u);
 }
 
 TEST(RtmeOutBinary, EntryBoolAndReservedBytes)
@@ -1244,29 +1055,21 @@ TEST(RtmeOutBinary, EntryBoolAndReservedBytes)
 
 TEST(RtmeOutBinary, BoundsOnThePresentContent)
 {
-    const SZelRtmeOutEpochData stData = MakeRtme();
-    Bytes vecOut(static_cast<size_t>(stData.getSize()), 0xAA);
     ZelTest::CRecordingHook stHook;
     uint64_t ulUsed = 3;
-    EXPECT_FALSE(stData.saveData(vecOut.data(), vecOut.size() - 1, &ulUsed));
-    EXPECT_EQ(ulUsed, 0u);
-    EXPECT_FALSE(stData.saveData(nullptr, vecOut.size(), &ulUsed));
-    EXPECT_EQ(stHook.Texts(), c_vecTwoFalse);
-    EXPECT_EQ(vecOut, Bytes(vecOut.size(), 0xAA));
-
-    stHook.Clear();
     const Bytes vecEmpty = Save(SZelRtmeOutEpochData());
     ASSERT_EQ(vecEmpty.size(), 132u);
-    SZelRtmeOutEpochData stTarget = MakeRtme();
+    SZelRtmeOutEpochData stTarget = ZelSample::RtmeOut();
     EXPECT_FALSE(stTarget.loadData(vecEmpty.data(), vecEmpty.size(), &ulUsed));
+    EXPECT_EQ(ulUsed, 0u);
     EXPECT_FALSE(stTarget.loadData(nullptr, 100000, &ulUsed));
     EXPECT_EQ(stHook.Texts(), c_vecTwoFalse);
-    EXPECT_TRUE(stTarget == MakeRtme());
+    EXPECT_TRUE(stTarget == ZelSample::RtmeOut());
 }
 
 TEST(RtmeOutBinary, LoadAddsToTheMaps)
 {
-    const SZelRtmeOutEpochData stData = MakeRtme();
+    const SZelRtmeOutEpochData stData = ZelSample::RtmeOut();
     Bytes vecImage = Save(stData);
     SZelRtmeOutEpochData stTarget;
     stTarget.AddCorrection(ZELCORRTYPE_VAR, SZelSatID(ZELSATSYSTEM_NAVIC, 2), ZELFREQUENCY_L5, false, 9.0);
@@ -1290,7 +1093,7 @@ TEST(RtmeOutBinary, LoadAddsToTheMaps)
 
 TEST(RtmeOutBinary, InnerEpochAndEntriesFail)
 {
-    const SZelRtmeOutEpochData stData = MakeRtme();
+    const SZelRtmeOutEpochData stData = ZelSample::RtmeOut();
     const Bytes vecImage = Save(stData);
     const size_t ulEpochSize = static_cast<size_t>(stData.stObs.getSize());
     {
@@ -1329,7 +1132,7 @@ TEST(RtmeOutBinary, InnerEpochAndEntriesFail)
 TEST(RtmeOutText, ExactStringSortedAndReadBack)
 {
     SZelRtmeOutEpochData stData;
-    stData.stObs.stZelObservationEpochHeader = MakeHeader();
+    stData.stObs.stZelObservationEpochHeader = ZelSample::EpochHeader();
     stData.alStationsUsed[0] = 3;
     stData.alStationsUsed[1] = 2;
     stData.alStationsUsed[2] = 1;
@@ -1339,6 +1142,11 @@ TEST(RtmeOutText, ExactStringSortedAndReadBack)
     stData.AddCorrection(ZELCORRTYPE_PCV, SZelSatID(ZELSATSYSTEM_GPS, 5), ZELFREQUENCY_L1CA, false, 0.25);
     stData.AddRangeRate(SZelSatID(ZELSATSYSTEM_GLONASS, 1), -3.0);
     stData.AddRangeRate(SZelSatID(ZELSATSYSTEM_GPS, 5), 100.5);
+    ZelTest::ExpectText(stData, "Obs, " + c_strHeaderText +
+                                    ", NumSats, 0, StnUsdG, 3, StnUsdR, 2, StnUsdC, 1, StnUsdE, 0, Clk, 1.5, "
+                                    "Corrs, 2, SatId, G05, Frq, 1, TrckModY, 0, CorrTyp, PCV, 0.25, "
+                                    "SatId, E11, Frq, 10, TrckModY, 1, CorrTyp, PCO, -0.5, "
+                                    "RngRates, 2, G05, 100.5, R01, -3");
     std::ostringstream oss;
     oss << std::setprecision(12) << stData;
     EXPECT_EQ(oss.str(),
@@ -1357,7 +1165,7 @@ TEST(RtmeOutText, ExactStringSortedAndReadBack)
 
 TEST(RtmeOutText, FullRecordRoundTrip)
 {
-    const SZelRtmeOutEpochData stData = MakeRtme();
+    const SZelRtmeOutEpochData stData = ZelSample::RtmeOut();
     const std::string strText = ToText(stData);
     std::istringstream iss(strText);
     SZelRtmeOutEpochData stBack;
@@ -1376,42 +1184,21 @@ TEST(RtmeOutText, FullRecordRoundTrip)
 
 TEST(OutObservations, GoldenImageAndRoundTrip)
 {
-    SZelOutObservations stOut;
-    EXPECT_EQ(stOut.getSize(), 12u);
-    stOut.ulValue0 = 0xDEADBEEFu;
-    stOut.ulValue1 = 42;
-    stOut.vecEpochs.push_back(MakeRtme());
-    SZelRtmeOutEpochData stSecond;
-    stSecond.dClock = -1.0;
-    stSecond.AddRangeRate(SZelSatID(ZELSATSYSTEM_QZSS, 2), 0.5);
-    stOut.vecEpochs.push_back(stSecond);
-
-    Bytes vecExpected(12, 0);
-    Put<uint32_t>(vecExpected, 0, 0xDEADBEEFu);
-    Put<uint32_t>(vecExpected, 4, 42);
-    Put<uint32_t>(vecExpected, 8, 2);
-    AppendBytes(vecExpected, RtmeImage(stOut.vecEpochs[0]));
-    AppendBytes(vecExpected, RtmeImage(stOut.vecEpochs[1]));
-
-    ZelTest::CRecordingHook stHook;
-    EXPECT_EQ(stOut.getSize(), vecExpected.size());
-    Bytes vecOut(vecExpected.size(), 0xAA);
-    uint64_t ulUsed = 0;
-    ASSERT_TRUE(stOut.saveData(vecOut.data(), vecOut.size(), &ulUsed));
-    EXPECT_EQ(ulUsed, vecExpected.size());
-    EXPECT_EQ(vecOut, vecExpected);
-
-    SZelOutObservations stBack;
-    ASSERT_TRUE(stBack.loadData(vecExpected.data(), vecExpected.size(), &ulUsed));
-    EXPECT_EQ(ulUsed, vecExpected.size());
-    EXPECT_TRUE(stBack == stOut);
-    EXPECT_EQ(stHook.Count(), 0u);
+    EXPECT_EQ(SZelOutObservations().getSize(), 12u);
+    const SZelOutObservations stOut = ZelSample::OutObservations();
+    CImage stExpected;
+    stExpected.At(0).U32(0xDEADBEEFu).At(4).U32(42).At(8).U32(2).At(12);
+    stExpected.Append(RtmeImage(stOut.vecEpochs[0])).Append(RtmeImage(stOut.vecEpochs[1]));
+    SZelOutObservations stTarget = stOut;
+    Perturb(stTarget.vecEpochs[0]);
+    Perturb(stTarget.vecEpochs[1]);
+    ZelTest::ExpectCoreImage(stOut, stExpected, ZelTest::SCoreRules(), stTarget);
 }
 
 TEST(OutObservations, ComparisonBoundsAndFailingElements)
 {
     SZelOutObservations stOut;
-    stOut.vecEpochs.push_back(MakeRtme());
+    stOut.vecEpochs.push_back(ZelSample::RtmeOut());
     SZelOutObservations stOther = stOut;
     EXPECT_TRUE(stOther == stOut);
     stOther.ulValue1 = 1;
@@ -1461,47 +1248,30 @@ TEST(OutObservations, ComparisonBoundsAndFailingElements)
 TEST(ObsInfo, DefaultsGoldenImageAndBounds)
 {
     const SZelObsInfo stDefault;
-    EXPECT_EQ(stDefault.getSize(), 40u);
+    EXPECT_EQ(stDefault.getSize(), c_ulOBSINFO_SIZE);
     EXPECT_EQ(stDefault.stStaticSince.m_eAccuracy, MJDACC_NANOSECOND);
     EXPECT_EQ(stDefault.ucTimeStatus, 0);
     EXPECT_EQ(stDefault.unObsFlags, 0);
     EXPECT_EQ(stDefault.ucDataFlags, 0);
     EXPECT_EQ(stDefault.ucStationType, 0);
     EXPECT_EQ(stDefault.ulStationId, 0u);
+    SZelObsInfo stReset = ZelSample::ObsInfo();
+    stReset.Reset();
+    EXPECT_TRUE(stReset == stDefault);
 
-    const SZelObsInfo stInfo = MakeObsInfo();
-    Bytes vecExpected(40, 0);
-    Put<int32_t>(vecExpected, 0, 59000);
-    Put<double>(vecExpected, 8, 3600000.25);
-    Put<int32_t>(vecExpected, 16, 1);
-    vecExpected[24] = 160;
-    Put<uint16_t>(vecExpected, 26, 0xBEEF);
-    vecExpected[28] = 3;
-    vecExpected[29] = 2;
-    Put<uint32_t>(vecExpected, 32, 123456);
-
-    ZelTest::CRecordingHook stHook;
-    Bytes vecOut(40, 0xAA);
-    uint64_t ulUsed = 0;
-    ASSERT_TRUE(stInfo.saveData(vecOut.data(), vecOut.size(), &ulUsed));
-    EXPECT_EQ(ulUsed, 40u);
-    EXPECT_EQ(vecOut, vecExpected);
+    CImage stExpected;
+    stExpected.At(0).Time24(59000, 3600000.25, 1).At(24).U8(160).Zero(1).At(26).U16(0xBEEF);
+    stExpected.At(28).U8(3).At(29).U8(2).Zero(2).At(32).U32(123456).Zero(4).At(40);
+    ZelTest::ExpectCoreImage(ZelSample::ObsInfo(), stExpected);
+    // The used-bytes output is optional.
     SZelObsInfo stBack;
-    ASSERT_TRUE(stBack.loadData(vecExpected.data(), vecExpected.size()));
-    EXPECT_TRUE(stBack == stInfo);
-    EXPECT_EQ(stHook.Count(), 0u);
-
-    EXPECT_FALSE(stInfo.saveData(vecOut.data(), 39, &ulUsed));
-    EXPECT_EQ(ulUsed, 0u);
-    EXPECT_FALSE(stInfo.saveData(nullptr, 40));
-    EXPECT_FALSE(stBack.loadData(vecExpected.data(), 39));
-    EXPECT_FALSE(stBack.loadData(nullptr, 40));
-    EXPECT_EQ(stHook.Texts(), (std::vector<std::string>{"false", "false", "false", "false"}));
+    EXPECT_TRUE(stBack.loadData(stExpected.Get().data(), stExpected.Size()));
+    EXPECT_TRUE(stBack == ZelSample::ObsInfo());
 }
 
 TEST(ObsInfo, ComparisonWithTimeTolerance)
 {
-    const SZelObsInfo stInfo = MakeObsInfo();
+    const SZelObsInfo stInfo = ZelSample::ObsInfo();
     SZelObsInfo stOther = stInfo;
     stOther.stStaticSince.m_dMjdFractMilliseconds += 5e-7;
     EXPECT_TRUE(stOther == stInfo);
@@ -1530,7 +1300,9 @@ TEST(ObsInfo, ComparisonWithTimeTolerance)
 
 TEST(ObsInfoText, ExactStringAndReadBack)
 {
-    const SZelObsInfo stInfo = MakeObsInfo();
+    const SZelObsInfo stInfo = ZelSample::ObsInfo();
+    ZelTest::ExpectText(stInfo, "StatSince, 2108, 3600, TimeStatus, 160, ObsFlgs, 48879, DataFlgs, 3, "
+                                "StnTyp, 2, StnId, 123456");
     std::ostringstream oss;
     oss << std::setprecision(12) << stInfo;
     EXPECT_EQ(oss.str(),
@@ -1554,40 +1326,29 @@ TEST(ObsInfoText, ExactStringAndReadBack)
 
 TEST(ExtObsEpoch, GoldenImageAndTimeStatus)
 {
-    ZelExtObsEpoch stExt;
-    stExt.stObsEpoch = MakeEpoch();
-    stExt.stObsInfo = MakeObsInfo();
+    const ZelExtObsEpoch stExt = ZelSample::ExtObsEpoch();
     EXPECT_EQ(stExt.GetTimeStatus(), 160);
     const Bytes vecEpoch = EpochImage(stExt.stObsEpoch);
-    Bytes vecExpected;
-    Append<uint32_t>(vecExpected, static_cast<uint32_t>(vecEpoch.size()));
-    AppendBytes(vecExpected, vecEpoch);
-    AppendBytes(vecExpected, ObsInfoImage(stExt.stObsInfo));
-    EXPECT_EQ(vecExpected.size(), vecEpoch.size() + 44);
-
-    ZelTest::CRecordingHook stHook;
-    EXPECT_EQ(stExt.getSize(), vecExpected.size());
-    Bytes vecOut(vecExpected.size(), 0xAA);
-    uint64_t ulUsed = 0;
-    ASSERT_TRUE(stExt.saveData(vecOut.data(), vecOut.size(), &ulUsed));
-    EXPECT_EQ(ulUsed, vecExpected.size());
-    EXPECT_EQ(vecOut, vecExpected);
+    CImage stExpected;
+    stExpected.At(0).U32(static_cast<uint32_t>(vecEpoch.size())).At(4).Append(vecEpoch);
+    stExpected.At(4 + vecEpoch.size()).Append(ObsInfoImage(stExt.stObsInfo)).At(vecEpoch.size() + 44);
+    ZelExtObsEpoch stTarget = stExt;
+    Perturb(stTarget.stObsEpoch);
+    stTarget.stObsInfo.ulStationId = 1;
+    ZelTest::ExpectCoreImage(stExt, stExpected, ZelTest::SCoreRules(), stTarget);
+    // The used-bytes output is optional.
+    Bytes vecOut(stExpected.Size(), 0xAA);
     EXPECT_TRUE(stExt.saveData(vecOut.data(), vecOut.size()));
-
-    ZelExtObsEpoch stBack;
-    ASSERT_TRUE(stBack.loadData(vecExpected.data(), vecExpected.size(), &ulUsed));
-    EXPECT_EQ(ulUsed, vecExpected.size());
-    EXPECT_TRUE(stBack == stExt);
-    EXPECT_EQ(stHook.Count(), 0u);
-
+    EXPECT_EQ(vecOut, stExpected.Get());
     EXPECT_EQ(ZelExtObsEpoch().getSize(), 144u);
+    EXPECT_EQ(c_ulEXTOBSEPOCH_EXTRA_SIZE, 44u);
 }
 
 TEST(ExtObsEpoch, BoundsAndStoredLength)
 {
     ZelExtObsEpoch stExt;
-    stExt.stObsEpoch = MakeEpoch();
-    stExt.stObsInfo = MakeObsInfo();
+    stExt.stObsEpoch = ZelSample::ObsEpoch();
+    stExt.stObsInfo = ZelSample::ObsInfo();
     const Bytes vecImage = Save(stExt);
     uint64_t ulUsed = 0;
     {
@@ -1634,8 +1395,11 @@ TEST(ExtObsEpoch, BoundsAndStoredLength)
 TEST(ExtObsEpochText, ExactStringAndReadBack)
 {
     ZelExtObsEpoch stExt;
-    stExt.stObsEpoch.stZelObservationEpochHeader = MakeHeader();
-    stExt.stObsInfo = MakeObsInfo();
+    stExt.stObsEpoch.stZelObservationEpochHeader = ZelSample::EpochHeader();
+    stExt.stObsInfo = ZelSample::ObsInfo();
+    ZelTest::ExpectText(stExt, c_strHeaderText +
+                                   ", NumSats, 0, ObsInfo, StatSince, 2108, 3600, TimeStatus, 160, "
+                                   "ObsFlgs, 48879, DataFlgs, 3, StnTyp, 2, StnId, 123456");
     std::ostringstream oss;
     oss << std::setprecision(12) << stExt;
     EXPECT_EQ(oss.str(),
@@ -1649,11 +1413,311 @@ TEST(ExtObsEpochText, ExactStringAndReadBack)
     EXPECT_FALSE(iss.fail());
     EXPECT_TRUE(stBack == stExt);
 
-    stExt.stObsEpoch = MakeEpoch();
+    stExt.stObsEpoch = ZelSample::ObsEpoch();
     std::istringstream iss2(ToText(stExt));
     iss2 >> stBack;
     EXPECT_FALSE(iss2.fail());
     EXPECT_TRUE(stBack == stExt);
+}
+
+// ---------------------------------------------------------------------------
+// Allocation in proportion to the input: a forged count of 0xFFFFFFFF in a
+// short buffer, for every reader with a sequence
+// ---------------------------------------------------------------------------
+
+namespace
+{
+
+// 145 bytes: a header, the count 0xFFFFFFFF at 96, three empty satellites.
+SZelObservationEpoch ThreeEmptySats()
+{
+    SZelObservationEpoch stEpoch;
+    stEpoch.vecSatObs.push_back(SatObs(ZELSATSYSTEM_GPS, 1, 0));
+    stEpoch.vecSatObs.push_back(SatObs(ZELSATSYSTEM_GPS, 2, 0));
+    stEpoch.vecSatObs.push_back(SatObs(ZELSATSYSTEM_GPS, 3, 0));
+    return stEpoch;
+}
+
+Bytes ForgedEpochImage()
+{
+    Bytes vecImage = EpochImage(ThreeEmptySats());
+    Put<uint32_t>(vecImage, 96, 0xFFFFFFFFu);
+    return vecImage;
+}
+
+// A binary read under the counter: its result, count, reports and bytes.
+struct SCountedRead
+{
+    bool bOk = true;
+    uint64_t ulUsed = 777;
+    std::vector<std::string> vecReports;
+    ZelTest::SAllocCount stAlloc;
+};
+
+template <class R> SCountedRead CountedLoad(const std::string& strWhat, R& rTarget, const Bytes& rvecImage)
+{
+    SCountedRead stRead;
+    ZelTest::CRecordingHook stHook;
+    stRead.stAlloc = ZelTest::CountAllocations(
+        [&] { stRead.bOk = rTarget.loadData(rvecImage.data(), rvecImage.size(), &stRead.ulUsed); });
+    stRead.vecReports = stHook.Texts();
+    ::testing::Test::RecordProperty(strWhat + "Allocated", std::to_string(stRead.stAlloc.ulBytes));
+    ::testing::Test::RecordProperty(strWhat + "Input", std::to_string(rvecImage.size()));
+    return stRead;
+}
+
+// A text read under the counter: the bytes allocated.
+template <class R>
+ZelTest::SAllocCount CountedTextRead(const std::string& strWhat, R& rTarget, std::istringstream& is)
+{
+    const ZelTest::SAllocCount stAlloc = ZelTest::CountAllocations([&] { is >> rTarget; });
+    ::testing::Test::RecordProperty(strWhat + "Allocated", std::to_string(stAlloc.ulBytes));
+    ::testing::Test::RecordProperty(strWhat + "Input", std::to_string(is.str().size()));
+    return stAlloc;
+}
+
+// A text sequence is given at most c_ulALLOC_CONSTANT bytes of elements from
+// its count: a short line stays within the bound of its own length.
+template <class T> uint64_t TextPresizeBound(size_t ulTextBytes)
+{
+    return ZelTest::AllocBound(ulTextBytes);
+}
+
+// The text of the three empty satellites with the count 4294967295.
+std::string ForgedEpochText()
+{
+    std::string strText = ToText(ThreeEmptySats());
+    const std::string strCount = ", NumSats, 3, SatId";
+    const size_t ulAt = strText.find(strCount);
+    EXPECT_NE(ulAt, std::string::npos);
+    return strText.replace(ulAt, strCount.size(), ", NumSats, 4294967295, SatId");
+}
+
+} // namespace
+
+TEST(ReaderAllocation, EpochSatelliteCount)
+{
+    const Bytes vecImage = ForgedEpochImage();
+    ASSERT_EQ(vecImage.size(), 145u);
+    SZelObservationEpoch stTarget;
+    const SCountedRead stRead = CountedLoad("Epoch", stTarget, vecImage);
+    EXPECT_FALSE(stRead.bOk);
+    EXPECT_LE(stRead.stAlloc.ulBytes, ZelTest::AllocBound(vecImage.size()));
+    // The fourth satellite's own bounds test, then the epoch's report.
+    EXPECT_EQ(stRead.vecReports, c_vecTwoFalse);
+    EXPECT_EQ(stRead.ulUsed, 145u);
+    // Sized to the three the bytes can hold, grown by the one where they end.
+    ASSERT_EQ(stTarget.vecSatObs.size(), 4u);
+    EXPECT_TRUE(stTarget.vecSatObs[2] == SatObs(ZELSATSYSTEM_GPS, 3, 0));
+}
+
+TEST(ReaderAllocation, EpochSatelliteCountTheBufferCanHold)
+{
+    // Five satellites announced and 75 bytes behind the count, which would
+    // hold five empty ones: the vector takes the count, and the read ends
+    // inside the fifth, whose head asks for a signal.
+    SZelObservationEpoch stFive = ThreeEmptySats();
+    stFive.vecSatObs.push_back(SatObs(ZELSATSYSTEM_GPS, 4, 0));
+    stFive.vecSatObs.push_back(SatObs(ZELSATSYSTEM_GPS, 5, 0));
+    Bytes vecImage = EpochImage(stFive);
+    vecImage.back() = 1;
+    SZelObservationEpoch stTarget;
+    const SCountedRead stRead = CountedLoad("EpochHoldable", stTarget, vecImage);
+    EXPECT_FALSE(stRead.bOk);
+    // The fifth satellite fails silently on its count, the epoch reports.
+    EXPECT_EQ(stRead.vecReports, c_vecOneFalse);
+    ASSERT_EQ(stTarget.vecSatObs.size(), 5u);
+    EXPECT_EQ(stTarget.vecSatObs[4].uiNumFreq, 1);
+    EXPECT_EQ(stRead.ulUsed, 160u);
+}
+
+// The worst case of the satellite vector: a long run of the smallest
+// satellite images behind a forged count. The vector is sized to the 2000
+// satellites the bytes hold, with room for the one where they end, so it
+// never reallocates.
+TEST(ReaderAllocation, EpochOfManyEmptySatellites)
+{
+    SZelObservationEpoch stMany;
+    for (int iSat = 0; iSat < 2000; ++iSat)
+    {
+        stMany.vecSatObs.push_back(SatObs(ZELSATSYSTEM_GPS, static_cast<uint8_t>(1 + iSat % 32), 0));
+    }
+    Bytes vecImage = EpochImage(stMany);
+    Put<uint32_t>(vecImage, 96, 0xFFFFFFFFu);
+    SZelObservationEpoch stTarget;
+    const SCountedRead stRead = CountedLoad("EpochManyEmpty", stTarget, vecImage);
+    EXPECT_FALSE(stRead.bOk);
+    EXPECT_EQ(stRead.vecReports, c_vecTwoFalse);
+    EXPECT_EQ(stRead.ulUsed, vecImage.size());
+    EXPECT_EQ(stTarget.vecSatObs.size(), 2001u);
+    EXPECT_LE(stRead.stAlloc.ulBytes, ZelTest::AllocBound(vecImage.size()));
+}
+
+TEST(ReaderAllocation, ExtEpochSatelliteCountAndStoredLength)
+{
+    const Bytes vecEpoch = ForgedEpochImage();
+    CImage stImage;
+    stImage.At(0)
+        .U32(static_cast<uint32_t>(vecEpoch.size()))
+        .Append(vecEpoch)
+        .Append(ObsInfoImage(SZelObsInfo()));
+    {
+        ZelExtObsEpoch stTarget;
+        const SCountedRead stRead = CountedLoad("ExtEpochSats", stTarget, stImage);
+        EXPECT_FALSE(stRead.bOk);
+        EXPECT_LE(stRead.stAlloc.ulBytes, ZelTest::AllocBound(stImage.Size()));
+        // The satellite, the epoch and the external record each report.
+        EXPECT_EQ(stRead.vecReports, std::vector<std::string>(3, "false"));
+        EXPECT_EQ(stRead.ulUsed, 4u);
+        EXPECT_EQ(stTarget.stObsEpoch.vecSatObs.size(), 4u);
+    }
+    {
+        Bytes vecForged = stImage;
+        Put<uint32_t>(vecForged, 0, 0xFFFFFFFFu);
+        ZelExtObsEpoch stTarget;
+        const SCountedRead stRead = CountedLoad("ExtEpochLength", stTarget, vecForged);
+        EXPECT_FALSE(stRead.bOk);
+        EXPECT_LE(stRead.stAlloc.ulBytes, ZelTest::AllocBound(vecForged.size()));
+        EXPECT_EQ(stRead.vecReports, c_vecOneFalse);
+        EXPECT_EQ(stRead.ulUsed, 4u);
+    }
+}
+
+TEST(ReaderAllocation, OutputSatelliteCorrectionAndRangeRateCounts)
+{
+    {
+        SZelRtmeOutEpochData stSource;
+        stSource.stObs = ThreeEmptySats();
+        Bytes vecImage = RtmeImage(stSource);
+        Put<uint32_t>(vecImage, 96, 0xFFFFFFFFu);
+        SZelRtmeOutEpochData stTarget;
+        const SCountedRead stRead = CountedLoad("OutputSats", stTarget, vecImage);
+        EXPECT_FALSE(stRead.bOk);
+        EXPECT_LE(stRead.stAlloc.ulBytes, ZelTest::AllocBound(vecImage.size()));
+        // The 32 bytes behind the satellites read as two satellites of no
+        // system, each reported; the sixth fails on its own test, the epoch
+        // reports, this level does not.
+        EXPECT_EQ(stRead.vecReports, std::vector<std::string>(4, "false"));
+        EXPECT_EQ(stRead.ulUsed, 175u);
+        EXPECT_EQ(stTarget.stObs.vecSatObs.size(), 6u);
+    }
+    SZelRtmeOutEpochData stSource;
+    stSource.AddCorrection(ZELCORRTYPE_PCV, SZelSatID(ZELSATSYSTEM_GPS, 1), ZELFREQUENCY_L1CA, false, 1.0);
+    stSource.AddCorrection(ZELCORRTYPE_PCO, SZelSatID(ZELSATSYSTEM_GPS, 2), ZELFREQUENCY_L1CA, true, 2.0);
+    stSource.AddRangeRate(SZelSatID(ZELSATSYSTEM_GPS, 1), 3.0);
+    stSource.AddRangeRate(SZelSatID(ZELSATSYSTEM_GPS, 2), 4.0);
+    const Bytes vecImage = RtmeImage(stSource);
+    ASSERT_EQ(vecImage.size(), 100u + 24u + 4u + 56u + 4u + 32u);
+    {
+        // A third correction reads from the 36 bytes of the range rates; the
+        // fourth finds 8 bytes, and its own bounds test reports.
+        Bytes vecForged = vecImage;
+        Put<uint32_t>(vecForged, 124, 0xFFFFFFFFu);
+        SZelRtmeOutEpochData stTarget;
+        const SCountedRead stRead = CountedLoad("OutputCorrections", stTarget, vecForged);
+        EXPECT_FALSE(stRead.bOk);
+        EXPECT_LE(stRead.stAlloc.ulBytes, ZelTest::AllocBound(vecForged.size()));
+        EXPECT_EQ(stRead.vecReports, c_vecOneFalse);
+        EXPECT_EQ(stRead.ulUsed, 212u);
+        EXPECT_EQ(stTarget.mapCorrections.size(), 3u);
+    }
+    {
+        Bytes vecForged = vecImage;
+        Put<uint32_t>(vecForged, 184, 0xFFFFFFFFu);
+        SZelRtmeOutEpochData stTarget;
+        const SCountedRead stRead = CountedLoad("OutputRangeRates", stTarget, vecForged);
+        EXPECT_FALSE(stRead.bOk);
+        EXPECT_LE(stRead.stAlloc.ulBytes, ZelTest::AllocBound(vecForged.size()));
+        EXPECT_EQ(stRead.vecReports, c_vecOneFalse);
+        EXPECT_EQ(stRead.ulUsed, vecForged.size());
+        EXPECT_EQ(stTarget.mapRangeRates.size(), 2u);
+    }
+}
+
+TEST(ReaderAllocation, BatchRecordCount)
+{
+    {
+        // One empty output record behind the count: the second one's own
+        // bounds test reports, the batch does not and counts nothing.
+        CImage stImage;
+        stImage.At(0).U32(1).U32(2).At(8).U32(0xFFFFFFFFu).At(12).Append(RtmeImage(SZelRtmeOutEpochData()));
+        SZelOutObservations stTarget;
+        const SCountedRead stRead = CountedLoad("BatchRecords", stTarget, stImage);
+        EXPECT_FALSE(stRead.bOk);
+        EXPECT_LE(stRead.stAlloc.ulBytes, ZelTest::AllocBound(stImage.Size()));
+        EXPECT_EQ(stRead.vecReports, c_vecOneFalse);
+        EXPECT_EQ(stRead.ulUsed, 0u);
+        EXPECT_EQ(stTarget.vecEpochs.size(), 2u);
+        EXPECT_EQ(stTarget.ulValue1, 2u);
+    }
+    {
+        // A forged satellite count inside the record: the epoch's four
+        // reports as above, none from the two outer levels.
+        SZelRtmeOutEpochData stData;
+        stData.stObs = ThreeEmptySats();
+        Bytes vecRecord = RtmeImage(stData);
+        Put<uint32_t>(vecRecord, 96, 0xFFFFFFFFu);
+        CImage stImage;
+        stImage.At(0).U32(1).U32(2).At(8).U32(1).At(12).Append(vecRecord);
+        SZelOutObservations stTarget;
+        const SCountedRead stRead = CountedLoad("BatchSats", stTarget, stImage);
+        EXPECT_FALSE(stRead.bOk);
+        EXPECT_LE(stRead.stAlloc.ulBytes, ZelTest::AllocBound(stImage.Size()));
+        EXPECT_EQ(stRead.vecReports, std::vector<std::string>(4, "false"));
+        EXPECT_EQ(stRead.ulUsed, 0u);
+    }
+}
+
+TEST(ReaderAllocation, TextSatelliteCounts)
+{
+    const std::string strEpoch = ForgedEpochText();
+    {
+        std::istringstream iss(strEpoch);
+        SZelObservationEpoch stTarget;
+        const ZelTest::SAllocCount stAlloc = CountedTextRead("EpochText", stTarget, iss);
+        EXPECT_TRUE(iss.fail());
+        EXPECT_LE(stAlloc.ulBytes, TextPresizeBound<SZelSatObservation>(iss.str().size()));
+        ASSERT_EQ(stTarget.vecSatObs.size(), ZelIo::TextPresizeMax<SZelSatObservation>());
+        EXPECT_EQ(146u, ZelIo::TextPresizeMax<SZelSatObservation>()); // 65536 / 448
+        EXPECT_TRUE(stTarget.vecSatObs[2] == SatObs(ZELSATSYSTEM_GPS, 3, 0));
+    }
+    {
+        std::istringstream iss(strEpoch + ", ObsInfo, StatSince, 2108, 3600, TimeStatus, 1");
+        ZelExtObsEpoch stTarget;
+        const ZelTest::SAllocCount stAlloc = CountedTextRead("ExtEpochText", stTarget, iss);
+        EXPECT_TRUE(iss.fail());
+        EXPECT_LE(stAlloc.ulBytes, TextPresizeBound<SZelSatObservation>(iss.str().size()));
+    }
+    {
+        std::istringstream iss("Obs, " + strEpoch + ", StnUsdG, 1");
+        SZelRtmeOutEpochData stTarget;
+        const ZelTest::SAllocCount stAlloc = CountedTextRead("OutputText", stTarget, iss);
+        EXPECT_TRUE(iss.fail());
+        EXPECT_LE(stAlloc.ulBytes, TextPresizeBound<SZelSatObservation>(iss.str().size()));
+    }
+}
+
+TEST(ReaderAllocation, TextMapCounts)
+{
+    // Entries are added as they are read: two of each.
+    std::istringstream iss("Obs, " + c_strHeaderText +
+                           ", NumSats, 0, StnUsdG, 3, StnUsdR, 2, StnUsdC, 1, StnUsdE, 0, Clk, 1.5, "
+                           "Corrs, 4294967295, SatId, G05, Frq, 1, TrckModY, 0, CorrTyp, PCV, 0.25, "
+                           "SatId, E11, Frq, 10, TrckModY, 1, CorrTyp, PCO, -0.5");
+    SZelRtmeOutEpochData stTarget;
+    const ZelTest::SAllocCount stAlloc = CountedTextRead("OutputCorrectionsText", stTarget, iss);
+    EXPECT_TRUE(iss.fail());
+    EXPECT_LE(stAlloc.ulBytes, ZelTest::AllocBound(iss.str().size()));
+    EXPECT_EQ(stTarget.mapCorrections.size(), 2u);
+
+    std::istringstream iss2("Obs, " + c_strHeaderText +
+                            ", NumSats, 0, StnUsdG, 3, StnUsdR, 2, StnUsdC, 1, StnUsdE, 0, Clk, 1.5, "
+                            "Corrs, 0, RngRates, 4294967295, G05, 100.5, R01, -3");
+    SZelRtmeOutEpochData stTarget2;
+    const ZelTest::SAllocCount stAlloc2 = CountedTextRead("OutputRangeRatesText", stTarget2, iss2);
+    EXPECT_TRUE(iss2.fail());
+    EXPECT_LE(stAlloc2.ulBytes, ZelTest::AllocBound(iss2.str().size()));
+    EXPECT_EQ(stTarget2.mapRangeRates.size(), 2u);
 }
 
 // ---------------------------------------------------------------------------

@@ -12,6 +12,8 @@
 #include <random>
 #include <sstream>
 #include <string>
+#include <type_traits>
+#include <utility>
 #include <vector>
 
 using namespace ZELN;
@@ -360,8 +362,8 @@ TEST(FrequencyMgr, CdmaFrequenciesAndWavelengthsEveryGroup)
             if (dFrequency != 0.0)
             {
                 EXPECT_NEAR(c_dC / dFrequency, dWavelength, 1e-15 * dWavelength);
-                EXPECT_EQ(dFrequency, stLocal.stMgr.GetFrequencyByBit(stSat, ToFrqGroupBit(eGrp)));
-                EXPECT_EQ(dStored, stLocal.stMgr.GetWavelengthByBit(stSat, ToFrqGroupBit(eGrp)));
+                EXPECT_EQ(dFrequency, stLocal.stMgr.GetFrequency(stSat, ToFrqGroupBit(eGrp)));
+                EXPECT_EQ(dStored, stLocal.stMgr.GetWavelength(stSat, ToFrqGroupBit(eGrp)));
             }
             double dBool = -5.0;
             EXPECT_EQ(dStored != 0.0, stLocal.stMgr.GetWavelengthBool(stSat, eGrp, dBool));
@@ -435,6 +437,228 @@ TEST(FrequencyMgr, WavelengthChecks)
 }
 
 // ---------------------------------------------------------------------------
+// The three forms of a frequency argument
+// ---------------------------------------------------------------------------
+
+// Whether a call with an argument of type A compiles at all.
+template <typename A>
+using FrequencyCall = decltype(std::declval<const CZelFrequencyMgr&>().GetFrequency(
+    std::declval<const SZelSatID&>(), std::declval<A>()));
+template <typename A>
+using WavelengthCall = decltype(std::declval<const CZelFrequencyMgr&>().GetWavelength(
+    std::declval<const SZelSatID&>(), std::declval<A>()));
+template <typename A>
+using WavelengthBoolCall = decltype(std::declval<const CZelFrequencyMgr&>().GetWavelengthBool(
+    std::declval<const SZelSatID&>(), std::declval<A>(), std::declval<double&>()));
+
+template <template <typename> class Call, typename A, typename = void> struct SCallable : std::false_type
+{
+};
+template <template <typename> class Call, typename A>
+struct SCallable<Call, A, std::void_t<Call<A>>> : std::true_type
+{
+};
+
+// Whether a member of exactly this parameter type exists. A non-template
+// member whose parameter is the argument's own type is always the one a call
+// takes, so this names the overload that a call with an A selects.
+template <typename A> using FrequencyForm = double (CZelFrequencyMgr::*)(const SZelSatID&, A) const;
+template <typename A> using WavelengthForm = double (CZelFrequencyMgr::*)(const SZelSatID&, A) const;
+template <typename A>
+using WavelengthBoolForm = bool (CZelFrequencyMgr::*)(const SZelSatID&, A, double&) const;
+
+constexpr FrequencyForm<int> c_pFrequencyByIndex = &CZelFrequencyMgr::GetFrequency;
+constexpr FrequencyForm<EZelFrequencyGroup> c_pFrequencyByGroup = &CZelFrequencyMgr::GetFrequency;
+constexpr FrequencyForm<uint32_t> c_pFrequencyByBit = &CZelFrequencyMgr::GetFrequency;
+constexpr FrequencyForm<EZelFrequency> c_pFrequencyBySlot = &CZelFrequencyMgr::GetFrequency;
+constexpr WavelengthForm<int> c_pWavelengthByIndex = &CZelFrequencyMgr::GetWavelength;
+constexpr WavelengthForm<EZelFrequencyGroup> c_pWavelengthByGroup = &CZelFrequencyMgr::GetWavelength;
+constexpr WavelengthForm<uint32_t> c_pWavelengthByBit = &CZelFrequencyMgr::GetWavelength;
+constexpr WavelengthForm<EZelFrequency> c_pWavelengthBySlot = &CZelFrequencyMgr::GetWavelength;
+constexpr WavelengthBoolForm<int> c_pWavelengthBoolByIndex = &CZelFrequencyMgr::GetWavelengthBool;
+constexpr WavelengthBoolForm<EZelFrequencyGroup> c_pWavelengthBoolByGroup =
+    &CZelFrequencyMgr::GetWavelengthBool;
+constexpr WavelengthBoolForm<uint32_t> c_pWavelengthBoolByBit = &CZelFrequencyMgr::GetWavelengthBool;
+constexpr WavelengthBoolForm<EZelFrequency> c_pWavelengthBoolBySlot = &CZelFrequencyMgr::GetWavelengthBool;
+static_assert(c_pFrequencyByIndex != nullptr && c_pFrequencyByGroup != nullptr &&
+                  c_pFrequencyByBit != nullptr && c_pFrequencyBySlot != nullptr,
+              "GetFrequency has an exact form for int, group, bit and slot");
+static_assert(c_pWavelengthByIndex != nullptr && c_pWavelengthByGroup != nullptr &&
+                  c_pWavelengthByBit != nullptr && c_pWavelengthBySlot != nullptr,
+              "GetWavelength has an exact form for int, group, bit and slot");
+static_assert(c_pWavelengthBoolByIndex != nullptr && c_pWavelengthBoolByGroup != nullptr &&
+                  c_pWavelengthBoolByBit != nullptr && c_pWavelengthBoolBySlot != nullptr,
+              "GetWavelengthBool has an exact form for int, group, bit and slot");
+
+// A group bit is a uint32_t, and so is a plain unsigned literal.
+static_assert(std::is_same<decltype(ToFrqGroupBit(ZELFREQUENCY_GROUP_3)), uint32_t>::value,
+              "ToFrqGroupBit gives the type of the bit form");
+static_assert(std::is_same<unsigned int, uint32_t>::value, "4u is a group bit");
+static_assert(std::is_same<int32_t, int>::value, "int32_t is a group index");
+
+template <typename A> constexpr bool IsAccepted()
+{
+    return SCallable<FrequencyCall, A>::value && SCallable<WavelengthCall, A>::value &&
+           SCallable<WavelengthBoolCall, A>::value;
+}
+template <typename A> constexpr bool IsRefused()
+{
+    return !SCallable<FrequencyCall, A>::value && !SCallable<WavelengthCall, A>::value &&
+           !SCallable<WavelengthBoolCall, A>::value;
+}
+
+static_assert(IsAccepted<int>() && IsAccepted<const int&>() && IsAccepted<int&>(), "index");
+static_assert(IsAccepted<EZelFrequencyGroup>() && IsAccepted<const EZelFrequencyGroup&>(), "index");
+static_assert(IsAccepted<uint32_t>() && IsAccepted<const uint32_t&>(), "bit");
+static_assert(IsAccepted<decltype(ToFrqGroupBit(ZELFREQUENCY_GROUP_1))>(), "bit");
+static_assert(IsAccepted<EZelFrequency>() && IsAccepted<const EZelFrequency&>(), "slot");
+// No silent conversion to one of the forms.
+static_assert(IsRefused<long>() && IsRefused<unsigned long>(), "long");
+static_assert(IsRefused<int64_t>() && IsRefused<uint64_t>() && IsRefused<size_t>(), "64 bits");
+static_assert(IsRefused<int8_t>() && IsRefused<uint8_t>() && IsRefused<char>(), "8 bits");
+static_assert(IsRefused<int16_t>() && IsRefused<uint16_t>(), "16 bits");
+static_assert(IsRefused<bool>() && IsRefused<double>(), "bool, double");
+static_assert(IsRefused<EZelSatSystem>() && IsRefused<EZelTrackMode>(), "other enumerations");
+
+TEST(FrequencyForms, OneValueThreeMeanings)
+{
+    SLocalMgr stLocal;
+    CRecorder stRec;
+    const SZelSatID stG05 = Sat(ZELSATSYSTEM_GPS, 5);
+    // 4 as a group index is group 4, as a group bit group 3, as a slot (L2P)
+    // group 2.
+    EXPECT_EQ(1207140000.0, stLocal.stMgr.GetFrequency(stG05, 4));
+    EXPECT_EQ(1207140000.0, stLocal.stMgr.GetFrequency(stG05, ZELFREQUENCY_GROUP_4));
+    EXPECT_EQ(1176450000.0, stLocal.stMgr.GetFrequency(stG05, 4u));
+    EXPECT_EQ(1176450000.0, stLocal.stMgr.GetFrequency(stG05, ToFrqGroupBit(ZELFREQUENCY_GROUP_3)));
+    EXPECT_EQ(1227600000.0, stLocal.stMgr.GetFrequency(stG05, ZELFREQUENCY_L2P));
+
+    EXPECT_EQ(0.2483493695843067, stLocal.stMgr.GetWavelength(stG05, 4));
+    EXPECT_EQ(0.2483493695843067, stLocal.stMgr.GetWavelength(stG05, ZELFREQUENCY_GROUP_4));
+    EXPECT_EQ(0.2548280487908539, stLocal.stMgr.GetWavelength(stG05, 4u));
+    EXPECT_EQ(0.2548280487908539, stLocal.stMgr.GetWavelength(stG05, ToFrqGroupBit(ZELFREQUENCY_GROUP_3)));
+    EXPECT_EQ(0.2442102134245683, stLocal.stMgr.GetWavelength(stG05, ZELFREQUENCY_L2P));
+
+    double dWavelength = -1.0;
+    EXPECT_TRUE(stLocal.stMgr.GetWavelengthBool(stG05, 4, dWavelength));
+    EXPECT_EQ(0.2483493695843067, dWavelength);
+    EXPECT_TRUE(stLocal.stMgr.GetWavelengthBool(stG05, ZELFREQUENCY_GROUP_4, dWavelength));
+    EXPECT_EQ(0.2483493695843067, dWavelength);
+    EXPECT_TRUE(stLocal.stMgr.GetWavelengthBool(stG05, 4u, dWavelength));
+    EXPECT_EQ(0.2548280487908539, dWavelength);
+    EXPECT_TRUE(stLocal.stMgr.GetWavelengthBool(stG05, ToFrqGroupBit(ZELFREQUENCY_GROUP_3), dWavelength));
+    EXPECT_EQ(0.2548280487908539, dWavelength);
+    EXPECT_TRUE(stLocal.stMgr.GetWavelengthBool(stG05, ZELFREQUENCY_L2P, dWavelength));
+    EXPECT_EQ(0.2442102134245683, dWavelength);
+    EXPECT_EQ(0u, stRec.Count());
+}
+
+TEST(FrequencyForms, ThroughTheExactMembers)
+{
+    // The members named above give what the calls give.
+    SLocalMgr stLocal;
+    const CZelFrequencyMgr& rMgr = stLocal.stMgr;
+    const SZelSatID stE11 = Sat(ZELSATSYSTEM_GALILEO, 11);
+    EXPECT_EQ(1207140000.0, (rMgr.*c_pFrequencyByIndex)(stE11, 4));
+    EXPECT_EQ(1207140000.0, (rMgr.*c_pFrequencyByGroup)(stE11, ZELFREQUENCY_GROUP_4));
+    EXPECT_EQ(1176450000.0, (rMgr.*c_pFrequencyByBit)(stE11, 4u));
+    EXPECT_EQ(1227600000.0, (rMgr.*c_pFrequencyBySlot)(stE11, ZELFREQUENCY_L2P));
+    EXPECT_EQ(0.2483493695843067, (rMgr.*c_pWavelengthByIndex)(stE11, 4));
+    EXPECT_EQ(0.2483493695843067, (rMgr.*c_pWavelengthByGroup)(stE11, ZELFREQUENCY_GROUP_4));
+    EXPECT_EQ(0.2548280487908539, (rMgr.*c_pWavelengthByBit)(stE11, 4u));
+    EXPECT_EQ(0.2442102134245683, (rMgr.*c_pWavelengthBySlot)(stE11, ZELFREQUENCY_L2P));
+    double dWavelength = -1.0;
+    EXPECT_TRUE((rMgr.*c_pWavelengthBoolByIndex)(stE11, 6, dWavelength));
+    EXPECT_EQ(0.2344418048875855, dWavelength);
+    EXPECT_TRUE((rMgr.*c_pWavelengthBoolByGroup)(stE11, ZELFREQUENCY_GROUP_6, dWavelength));
+    EXPECT_EQ(0.2344418048875855, dWavelength);
+    EXPECT_TRUE((rMgr.*c_pWavelengthBoolByBit)(stE11, 32u, dWavelength));
+    EXPECT_EQ(0.2344418048875855, dWavelength);
+    EXPECT_TRUE((rMgr.*c_pWavelengthBoolBySlot)(stE11, ZELFREQUENCY_E6, dWavelength));
+    EXPECT_EQ(0.2344418048875855, dWavelength);
+}
+
+TEST(FrequencyForms, BitFormTakesOnlySingleBits)
+{
+    SLocalMgr stLocal;
+    const SZelSatID stG05 = Sat(ZELSATSYSTEM_GPS, 5);
+    {
+        // 3 as an index is group 3; as a bit it is two groups at once.
+        CRecorder stRec;
+        EXPECT_EQ(1176450000.0, stLocal.stMgr.GetFrequency(stG05, 3));
+        EXPECT_EQ(0u, stRec.Count());
+        EXPECT_EQ(0.0, stLocal.stMgr.GetFrequency(stG05, 3u));
+        EXPECT_EQ(0.0, stLocal.stMgr.GetWavelength(stG05, 3u));
+        double dWavelength = -1.0;
+        EXPECT_FALSE(stLocal.stMgr.GetWavelengthBool(stG05, 3u, dWavelength));
+        EXPECT_EQ(0.0, dWavelength);
+        EXPECT_EQ(3u, stRec.Count("false"));
+        EXPECT_EQ(3u, stRec.Count());
+    }
+    {
+        // Bit 0 is no group, silently; a bit past group 6 is no group either.
+        CRecorder stRec;
+        EXPECT_EQ(0.0, stLocal.stMgr.GetFrequency(stG05, 0u));
+        EXPECT_EQ(0u, stRec.Count());
+        EXPECT_EQ(0.0, stLocal.stMgr.GetFrequency(stG05, 64u));
+        EXPECT_EQ(1u, stRec.Count("false"));
+    }
+    {
+        // Every group through its bit, against its index.
+        CRecorder stRec;
+        for (int iGrp = 1; iGrp <= 6; ++iGrp)
+        {
+            const EZelFrequencyGroup eGrp = static_cast<EZelFrequencyGroup>(iGrp);
+            const uint32_t ebfFrq = ToFrqGroupBit(eGrp);
+            EXPECT_EQ(c_adFirstTable[iGrp], stLocal.stMgr.GetFrequency(stG05, ebfFrq)) << iGrp;
+            EXPECT_EQ(c_adFirstTable[iGrp], stLocal.stMgr.GetFrequency(stG05, eGrp)) << iGrp;
+            EXPECT_EQ(c_adFirstWavelengths[iGrp], stLocal.stMgr.GetWavelength(stG05, ebfFrq)) << iGrp;
+            EXPECT_EQ(c_adFirstWavelengths[iGrp], stLocal.stMgr.GetWavelength(stG05, iGrp)) << iGrp;
+        }
+        EXPECT_EQ(0u, stRec.Count());
+    }
+}
+
+TEST(FrequencyForms, IndexFormsAgreeOnGlonass)
+{
+    SLocalMgr stLocal;
+    CRecorder stRec;
+    stLocal.stMgr.SetGlonassChannel(3, -4);
+    const SZelSatID stR03 = Sat(ZELSATSYSTEM_GLONASS, 3);
+    EXPECT_DOUBLE_EQ(G2(-4), stLocal.stMgr.GetFrequency(stR03, ZELFREQUENCY_GROUP_2));
+    EXPECT_EQ(stLocal.stMgr.GetFrequency(stR03, 2), stLocal.stMgr.GetFrequency(stR03, ZELFREQUENCY_GROUP_2));
+    EXPECT_EQ(stLocal.stMgr.GetFrequency(stR03, 2), stLocal.stMgr.GetFrequency(stR03, 2u));
+    EXPECT_DOUBLE_EQ(c_dC / G1(-4), stLocal.stMgr.GetWavelength(stR03, 1));
+    EXPECT_EQ(stLocal.stMgr.GetWavelength(stR03, 1),
+              stLocal.stMgr.GetWavelength(stR03, ZELFREQUENCY_GROUP_1));
+    // Bit 4 is group 3, the CDMA carrier; index 4 is a group GLONASS lacks.
+    EXPECT_EQ(0.24940617541232504, stLocal.stMgr.GetWavelength(stR03, 4u));
+    EXPECT_DOUBLE_EQ(c_dC / G2(-4), stLocal.stMgr.GetWavelength(stR03, 2));
+    EXPECT_EQ(0.0, stLocal.stMgr.GetWavelength(stR03, 4));
+    EXPECT_EQ(0u, stRec.Count());
+}
+
+TEST(FrequencyForms, IndexOutOfRangeThroughInt)
+{
+    SLocalMgr stLocal;
+    const SZelSatID stGps = Sat(ZELSATSYSTEM_GPS, 1);
+    {
+        CRecorder stRec;
+        EXPECT_EQ(0.0, stLocal.stMgr.GetWavelength(stGps, 7));
+        ASSERT_EQ(1u, stRec.Count());
+        EXPECT_EQ("eFreqIdx < ZELFREQUENCY_GROUPS_MAX", stRec.Texts()[0]);
+    }
+    {
+        CRecorder stRec;
+        double dWavelength = -1.0;
+        EXPECT_FALSE(stLocal.stMgr.GetWavelengthBool(stGps, -1, dWavelength));
+        EXPECT_EQ(0.0, dWavelength);
+        ASSERT_EQ(1u, stRec.Count());
+        EXPECT_EQ("false", stRec.Texts()[0]);
+    }
+}
+
+// ---------------------------------------------------------------------------
 // GLONASS channels
 // ---------------------------------------------------------------------------
 
@@ -458,7 +682,7 @@ TEST(FrequencyMgr, GlonassEveryChannelEverySlot)
             EXPECT_EQ(0.24940617541232504, stLocal.stMgr.GetWavelength(stSat, ZELFREQUENCY_GROUP_3));
             EXPECT_EQ(0.0, stLocal.stMgr.GetWavelength(stSat, ZELFREQUENCY_GROUP_5));
             EXPECT_DOUBLE_EQ(c_dC / G1(iChannel), stLocal.stMgr.GetWavelength(stSat, ZELFREQUENCY_L1P));
-            EXPECT_DOUBLE_EQ(c_dC / G2(iChannel), stLocal.stMgr.GetWavelengthByBit(stSat, 2));
+            EXPECT_DOUBLE_EQ(c_dC / G2(iChannel), stLocal.stMgr.GetWavelength(stSat, 2u));
             int8_t cChannel = 0;
             EXPECT_TRUE(stLocal.stMgr.GetGlonassChannel(stSat, cChannel));
             EXPECT_EQ(iChannel, cChannel);
@@ -485,7 +709,7 @@ TEST(FrequencyMgr, GlonassUnknownChannel)
     double dWavelength = -1.0;
     EXPECT_FALSE(stLocal.stMgr.GetWavelengthBool(stSat, ZELFREQUENCY_GROUP_1, dWavelength));
     EXPECT_EQ(0.0, dWavelength);
-    EXPECT_FALSE(stLocal.stMgr.GetWavelengthBoolByBit(stSat, 2, dWavelength));
+    EXPECT_FALSE(stLocal.stMgr.GetWavelengthBool(stSat, 2u, dWavelength));
     EXPECT_FALSE(stLocal.stMgr.GetWavelengthBool(stSat, ZELFREQUENCY_L1CA, dWavelength));
     EXPECT_EQ(0.0, stLocal.stMgr.GetFrequency(stSat, 1));
     int8_t cChannel = 0;

@@ -617,6 +617,60 @@ TEST(GnssTimeText, CStringBufferRules)
     EXPECT_STREQ(szText, "2303");
 }
 
+// Each form at exactly its room, and one byte less: cut and false.
+TEST(GnssTimeText, CStringRoomOfEachForm)
+{
+    const SMjdTime st(2024, 2, 29, 12, 30, 15.25);
+    char szText[32];
+
+    std::memset(szText, 'x', sizeof(szText));
+    EXPECT_TRUE(st.GetTextEpoch(szText, 27));
+    EXPECT_STREQ(szText, " 24 02 29 12 30 15.2500000");
+    EXPECT_EQ(szText[27], 'x');
+    std::memset(szText, 'x', sizeof(szText));
+    EXPECT_FALSE(st.GetTextEpoch(szText, 26));
+    EXPECT_STREQ(szText, " 24 02 29 12 30 15.250000");
+    EXPECT_EQ(szText[26], 'x');
+
+    std::memset(szText, 'x', sizeof(szText));
+    EXPECT_TRUE(st.GetTextMjd(szText, 19));
+    EXPECT_STREQ(szText, "60369 45015250.000");
+    EXPECT_EQ(szText[19], 'x');
+    std::memset(szText, 'x', sizeof(szText));
+    EXPECT_FALSE(st.GetTextMjd(szText, 18));
+    EXPECT_STREQ(szText, "60369 45015250.00");
+    EXPECT_EQ(szText[18], 'x');
+
+    std::memset(szText, 'x', sizeof(szText));
+    EXPECT_TRUE(st.GetTextGps(szText, 15));
+    EXPECT_STREQ(szText, "2303 390615250");
+    EXPECT_EQ(szText[15], 'x');
+    std::memset(szText, 'x', sizeof(szText));
+    EXPECT_FALSE(st.GetTextGps(szText, 14));
+    EXPECT_STREQ(szText, "2303 39061525");
+    EXPECT_EQ(szText[14], 'x');
+
+    // The widest values of a time within range take the same room.
+    SMjdTime stLast;
+    stLast.m_lMjdDay = 85999;
+    stLast.m_dMjdFractMilliseconds = 86399999.999;
+    EXPECT_TRUE(stLast.GetTextMjd(szText, 19));
+    EXPECT_STREQ(szText, "85999 86399999.999");
+    EXPECT_FALSE(stLast.GetTextMjd(szText, 18));
+    EXPECT_TRUE(stLast.GetTextEpoch(szText, 27));
+    EXPECT_EQ(std::strlen(szText), 26u);
+    EXPECT_FALSE(stLast.GetTextEpoch(szText, 26));
+
+    // Before the GPS epoch the 16-bit week has five digits: one byte more.
+    SMjdTime stEarly;
+    stEarly.m_lMjdDay = 44243;
+    // (2^32 - 1) / 7 = 613566756 rest 3; 613566756 mod 65536 = 18724.
+    EXPECT_TRUE(stEarly.GetTextGps(szText, 16));
+    EXPECT_STREQ(szText, "18724 259200000");
+    EXPECT_FALSE(stEarly.GetTextGps(szText, 15));
+    EXPECT_STREQ(szText, "18724 25920000");
+}
+
 // ---------------------------------------------------------------- stream forms
 
 TEST(GnssTimeText, StreamFormsExact)
@@ -726,16 +780,135 @@ TEST(GnssTimeText, ReaderKnowsOnlyTheGpsForms)
     EXPECT_EQ(iss.tellg(), 0); // nothing read
 }
 
-TEST(GnssTimeText, CutTextFailsTheStreamAndKeepsTheTime)
+// A failed extraction leaves its temporary at 0, and the range test decides:
+// the time never keeps what it had.
+TEST(GnssTimeText, CutTextFailsTheStreamAndTakesTheZeros)
 {
+    ZelTest::CRecordingHook Hook;
     SMjdTime st(100u, 1.0);
     std::istringstream iss("2303,");
     iss >> st;
     EXPECT_TRUE(iss.fail());
-    EXPECT_EQ(st.GetGpsWeek(), 100u);
-    EXPECT_EQ(st.GetGpsSeconds(), 1.0);
+    EXPECT_EQ(st.m_lMjdDay, 2303 * 7 + 44244);
+    EXPECT_EQ(st.m_dMjdFractMilliseconds, 0.0);
+    EXPECT_EQ(st.GetGpsWeek(), 2303u);
+    EXPECT_EQ(st.GetGpsSeconds(), 0.0);
+    // No week at all: week 0 at 0.0 s, which is in range.
     std::istringstream issGarbage("week, seconds");
     issGarbage >> st;
     EXPECT_TRUE(issGarbage.fail());
-    EXPECT_EQ(st.GetGpsWeek(), 100u);
+    EXPECT_EQ(st.m_lMjdDay, 44244);
+    EXPECT_EQ(st.m_dMjdFractMilliseconds, 0.0);
+    EXPECT_EQ(Hook.Count(), 0u);
+}
+
+TEST(GnssTimeText, BadValueGivesTheWeekAtZero)
+{
+    ZelTest::CRecordingHook Hook;
+    SMjdTime stSeconds(2303u, 390615.25, MJDACC_SECOND);
+    std::istringstream iss("1000, abc");
+    stSeconds.ReadText(iss, MJDTXT_GPS_SECONDS);
+    EXPECT_TRUE(iss.fail());
+    EXPECT_EQ(stSeconds.m_lMjdDay, 51244); // 1000 * 7 + 44244
+    EXPECT_EQ(stSeconds.m_dMjdFractMilliseconds, 0.0);
+    EXPECT_EQ(stSeconds.GetGpsWeek(), 1000u);
+    EXPECT_EQ(stSeconds.GetGpsSeconds(), 0.0);
+    EXPECT_EQ(stSeconds.m_eAccuracy, MJDACC_SECOND); // a setter's work: the accuracy stays
+
+    SMjdTime stMs(2303u, 390615.25, MJDACC_SECOND);
+    std::istringstream issMs("1000, abc");
+    stMs.ReadText(issMs, MJDTXT_GPS_MILLISECONDS);
+    EXPECT_TRUE(issMs.fail());
+    EXPECT_EQ(stMs.m_lMjdDay, 51244);
+    EXPECT_EQ(stMs.m_dMjdFractMilliseconds, 0.0);
+    unsigned short unWeek = 0;
+    unsigned int uiMs = 99;
+    stMs.GetGpsTimeMs(unWeek, uiMs);
+    EXPECT_EQ(unWeek, 1000u);
+    EXPECT_EQ(uiMs, 0u);
+    EXPECT_EQ(stMs.m_eAccuracy, MJDACC_SECOND);
+
+    // operator>> is the seconds form.
+    SMjdTime stOp(2303u, 390615.25);
+    std::istringstream issOp("1000, abc");
+    issOp >> stOp;
+    EXPECT_TRUE(issOp.fail());
+    EXPECT_EQ(stOp.m_lMjdDay, 51244);
+    EXPECT_EQ(stOp.m_dMjdFractMilliseconds, 0.0);
+    EXPECT_EQ(Hook.Count(), 0u);
+}
+
+TEST(GnssTimeText, CutAfterTheWeek)
+{
+    ZelTest::CRecordingHook Hook;
+    for (int iForm = 3; iForm <= 4; ++iForm)
+    {
+        SMjdTime st(2303u, 390615.25);
+        std::istringstream iss("1000");
+        st.ReadText(iss, static_cast<EMjdTimeTextForm>(iForm));
+        EXPECT_TRUE(iss.fail()) << iForm;
+        EXPECT_EQ(st.m_lMjdDay, 51244) << iForm;
+        EXPECT_EQ(st.m_dMjdFractMilliseconds, 0.0) << iForm;
+    }
+    // A comma and no value.
+    SMjdTime st(2303u, 390615.25);
+    std::istringstream iss("1000 ,");
+    iss >> st;
+    EXPECT_TRUE(iss.fail());
+    EXPECT_EQ(st.m_lMjdDay, 51244);
+    EXPECT_EQ(st.m_dMjdFractMilliseconds, 0.0);
+    EXPECT_EQ(Hook.Count(), 0u);
+}
+
+TEST(GnssTimeText, EmptyOrFailedStreamGivesWeekZero)
+{
+    ZelTest::CRecordingHook Hook;
+    for (int iForm = 3; iForm <= 4; ++iForm)
+    {
+        SMjdTime st(2303u, 390615.25, MJDACC_HOUR);
+        std::istringstream iss("");
+        st.ReadText(iss, static_cast<EMjdTimeTextForm>(iForm));
+        EXPECT_TRUE(iss.fail()) << iForm;
+        EXPECT_EQ(st.m_lMjdDay, 44244) << iForm; // GPS week 0, 0 s
+        EXPECT_EQ(st.m_dMjdFractMilliseconds, 0.0) << iForm;
+        EXPECT_EQ(st.m_eAccuracy, MJDACC_HOUR) << iForm;
+
+        // A stream that failed before: nothing is read, the same result.
+        SMjdTime stAfter(2303u, 390615.25);
+        std::istringstream issFailed("1000, 5.0");
+        issFailed.setstate(std::ios::failbit);
+        stAfter.ReadText(issFailed, static_cast<EMjdTimeTextForm>(iForm));
+        EXPECT_TRUE(issFailed.fail()) << iForm;
+        EXPECT_EQ(issFailed.rdbuf()->in_avail(), 9) << iForm; // nothing consumed
+        EXPECT_EQ(stAfter.m_lMjdDay, 44244) << iForm;
+        EXPECT_EQ(stAfter.m_dMjdFractMilliseconds, 0.0) << iForm;
+    }
+    SMjdTime stOp(2303u, 390615.25);
+    std::istringstream issOp("   ");
+    issOp >> stOp;
+    EXPECT_TRUE(issOp.fail());
+    EXPECT_EQ(stOp.m_lMjdDay, 44244);
+    EXPECT_EQ(stOp.m_dMjdFractMilliseconds, 0.0);
+    EXPECT_EQ(Hook.Count(), 0u);
+}
+
+TEST(GnssTimeText, OverflowFailsTheStreamAndTheRangeTest)
+{
+    ZelTest::CRecordingHook Hook;
+    // A week past 16 bits comes out at the largest value: out of range.
+    SMjdTime stWeek(2303u, 390615.25, MJDACC_HOUR);
+    std::istringstream issWeek("70000, 5.0");
+    issWeek >> stWeek;
+    EXPECT_TRUE(issWeek.fail());
+    EXPECT_EQ(stWeek.m_lMjdDay, 0);
+    EXPECT_EQ(stWeek.m_dMjdFractMilliseconds, 0.0);
+    EXPECT_EQ(stWeek.m_eAccuracy, MJDACC_NANOSECOND);
+    // A value past the double range likewise.
+    SMjdTime stValue(2303u, 390615.25);
+    std::istringstream issValue("1000, 1e999");
+    issValue >> stValue;
+    EXPECT_TRUE(issValue.fail());
+    EXPECT_EQ(stValue.m_lMjdDay, 0);
+    EXPECT_EQ(stValue.m_dMjdFractMilliseconds, 0.0);
+    EXPECT_EQ(Hook.Count(), 0u);
 }

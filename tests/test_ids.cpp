@@ -1,12 +1,13 @@
 #include <ZelTypes/Core/Common/ZelObsInfo.h>
 #include <ZelTypes/Core/Common/ZelTypesIDs.h>
 
+#include "ZelSamplesIds.h"
 #include "ZelTestHooks.h"
+#include "ZelTestKit.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstring>
 #include <iomanip>
 #include <iostream>
 #include <random>
@@ -39,73 +40,11 @@ SZelSatID Sat(EZelSatSystem eSys, int iNumber)
     return SZelSatID(eSys, static_cast<uint8_t>(iNumber));
 }
 
-template <class T> void PutBytes(std::vector<unsigned char>& rvec, size_t ulOffset, const T& rValue)
-{
-    std::memcpy(rvec.data() + ulOffset, &rValue, sizeof(T));
-}
-
 template <class R> std::string ToText(const R& rRecord)
 {
     std::ostringstream oss;
     oss << rRecord;
     return oss.str();
-}
-
-// Golden image test: written bytes, read back, exact size, one byte short, null buffer.
-template <class R>
-void CheckImage(const R& rRecord, const std::vector<unsigned char>& rvecExpected, bool bLeaf)
-{
-    ASSERT_EQ(rvecExpected.size(), rRecord.getSize());
-    const uint64_t ulSize = rRecord.getSize();
-
-    std::vector<unsigned char> vecOut(ulSize, 0xCD);
-    uint64_t ulOffset = 99;
-    {
-        CRecorder stRec;
-        EXPECT_TRUE(rRecord.saveData(vecOut.data(), ulSize, &ulOffset));
-        EXPECT_EQ(0u, stRec.Count());
-    }
-    EXPECT_EQ(ulSize, ulOffset);
-    EXPECT_EQ(rvecExpected, vecOut);
-
-    R stRead;
-    ulOffset = 99;
-    {
-        CRecorder stRec;
-        EXPECT_TRUE(stRead.loadData(rvecExpected.data(), ulSize, &ulOffset));
-        EXPECT_EQ(0u, stRec.Count());
-    }
-    EXPECT_EQ(ulSize, ulOffset);
-    EXPECT_TRUE(stRead == rRecord);
-
-    // One byte short: "false", false, the count 0 (leaf) or as it was.
-    {
-        CRecorder stRec;
-        std::vector<unsigned char> vecShort(ulSize - 1, 0xEE);
-        ulOffset = 77;
-        EXPECT_FALSE(rRecord.saveData(vecShort.data(), ulSize - 1, &ulOffset));
-        EXPECT_EQ(bLeaf ? 0u : 77u, ulOffset);
-        EXPECT_EQ(std::vector<unsigned char>(ulSize - 1, 0xEE), vecShort);
-        R stUntouched = rRecord;
-        ulOffset = 77;
-        EXPECT_FALSE(stUntouched.loadData(rvecExpected.data(), ulSize - 1, &ulOffset));
-        EXPECT_EQ(bLeaf ? 0u : 77u, ulOffset);
-        EXPECT_TRUE(stUntouched == rRecord);
-        ASSERT_EQ(2u, stRec.Count());
-        EXPECT_EQ("false", stRec.Texts()[0]);
-        EXPECT_EQ("false", stRec.Texts()[1]);
-    }
-    // Null buffer.
-    {
-        CRecorder stRec;
-        ulOffset = 0;
-        EXPECT_FALSE(rRecord.saveData(nullptr, 100, &ulOffset));
-        R stUntouched = rRecord;
-        EXPECT_FALSE(stUntouched.loadData(nullptr, 100, &ulOffset));
-        EXPECT_TRUE(stUntouched == rRecord);
-        EXPECT_EQ(2u, stRec.Count("false"));
-        EXPECT_EQ(2u, stRec.Count());
-    }
 }
 
 } // namespace
@@ -522,73 +461,140 @@ TEST(SatID, GeoOfUnknownSystemReports)
 // Binary forms
 // ---------------------------------------------------------------------------
 
-TEST(Binary, SatIDImage)
+namespace
 {
-    std::vector<unsigned char> vec(8, 0);
-    PutBytes(vec, 0, int32_t(5));
-    PutBytes(vec, 4, uint8_t(19));
-    CheckImage(Sat(ZELSATSYSTEM_BEIDOU, 19), vec, true);
+
+using ZelTest::CImage;
+
+// The identifier family: a sample of each, its golden image from the offset
+// table, its line, its stated size and where a satellite's image stands in
+// it (-1: none).
+template <class R> struct SIdCase;
+
+template <> struct SIdCase<SZelSatID>
+{
+    static SZelSatID Sample() { return ZelSample::SatId(); }
+    // System at 0, number at 4, three filling bytes written as zero.
+    static ZelTest::Bytes Golden() { return CImage().At(0).I32(5).At(4).U8(19).At(5).Zero(3).Get(); }
+    static constexpr const char* c_szLine = "C19";
+    static constexpr uint64_t c_ulSize = 8;
+    static constexpr ZelTest::ECountRule c_eCount = ZelTest::eCOUNT_CLEARED;
+    static constexpr int c_iSatAt = 0;
+};
+
+template <> struct SIdCase<SZelFrqTMdID>
+{
+    static SZelFrqTMdID Sample() { return ZelSample::FrqTMdId(); }
+    // Group at 0, mode at 4 (Q is 10).
+    static ZelTest::Bytes Golden() { return CImage().At(0).I32(3).At(4).I32(10).Get(); }
+    static constexpr const char* c_szLine = "3:Q";
+    static constexpr uint64_t c_ulSize = 8;
+    static constexpr ZelTest::ECountRule c_eCount = ZelTest::eCOUNT_CLEARED;
+    static constexpr int c_iSatAt = -1;
+};
+
+template <> struct SIdCase<SZelSatFrqID>
+{
+    static SZelSatFrqID Sample() { return ZelSample::SatFrqId(); }
+    // The satellite at 0 (G05), the group at 8.
+    static ZelTest::Bytes Golden()
+    {
+        return CImage().At(0).I32(1).At(4).U8(5).At(5).Zero(3).At(8).I32(2).Get();
+    }
+    static constexpr const char* c_szLine = "G05:L2";
+    static constexpr uint64_t c_ulSize = 12;
+    static constexpr ZelTest::ECountRule c_eCount = ZelTest::eCOUNT_KEPT;
+    static constexpr int c_iSatAt = 0;
+};
+
+template <> struct SIdCase<SZelSysFrqID>
+{
+    static SZelSysFrqID Sample() { return ZelSample::SysFrqId(); }
+    // System at 0, group at 4.
+    static ZelTest::Bytes Golden() { return CImage().At(0).I32(3).At(4).I32(6).Get(); }
+    static constexpr const char* c_szLine = "E:E6";
+    static constexpr uint64_t c_ulSize = 8;
+    static constexpr ZelTest::ECountRule c_eCount = ZelTest::eCOUNT_CLEARED;
+    static constexpr int c_iSatAt = -1;
+};
+
+template <> struct SIdCase<SZelSysFrqTMdGroupID>
+{
+    static SZelSysFrqTMdGroupID Sample() { return ZelSample::SysFrqTMdGroupId(); }
+    // System at 0, group at 4, the mode bits at 8 (C and W).
+    static ZelTest::Bytes Golden() { return CImage().At(0).I32(1).At(4).I32(2).At(8).U32(0x804).Get(); }
+    static constexpr const char* c_szLine = "G:L2:C|W";
+    static constexpr uint64_t c_ulSize = 12;
+    static constexpr ZelTest::ECountRule c_eCount = ZelTest::eCOUNT_CLEARED;
+    static constexpr int c_iSatAt = -1;
+};
+
+template <> struct SIdCase<SZelSatFrqTMdGroupID>
+{
+    static SZelSatFrqTMdGroupID Sample() { return ZelSample::SatFrqTMdGroupId(); }
+    // The satellite at 0 (C61), the group at 8, the mode bits at 12 (P).
+    static ZelTest::Bytes Golden()
+    {
+        return CImage().At(0).I32(5).At(4).U8(61).At(5).Zero(3).At(8).I32(4).At(12).U32(0x100).Get();
+    }
+    static constexpr const char* c_szLine = "C61:B1C:P";
+    static constexpr uint64_t c_ulSize = 16;
+    static constexpr ZelTest::ECountRule c_eCount = ZelTest::eCOUNT_KEPT;
+    static constexpr int c_iSatAt = 0;
+};
+
+template <class R> class IdentifierRecord : public ::testing::Test
+{
+};
+typedef ::testing::Types<SZelSatID, SZelFrqTMdID, SZelSatFrqID, SZelSysFrqID, SZelSysFrqTMdGroupID,
+                         SZelSatFrqTMdGroupID>
+    IdentifierTypes;
+TYPED_TEST_SUITE(IdentifierRecord, IdentifierTypes);
+
+// The records holding a satellite.
+template <class R> class SatelliteKey : public ::testing::Test
+{
+};
+typedef ::testing::Types<SZelSatID, SZelSatFrqID, SZelSatFrqTMdGroupID> SatelliteKeyTypes;
+TYPED_TEST_SUITE(SatelliteKey, SatelliteKeyTypes);
+
+} // namespace
+
+TYPED_TEST(IdentifierRecord, GoldenImage)
+{
+    typedef SIdCase<TypeParam> Case;
+    ZelTest::SCoreRules stRules;
+    stRules.eCountRule = Case::c_eCount;
+    ZelTest::ExpectCoreImage(Case::Sample(), Case::Golden(), stRules);
 }
 
-TEST(Binary, SatIDReaderIgnoresFillingBytes)
+TYPED_TEST(IdentifierRecord, SizeIsTheStatedConstant)
 {
-    std::vector<unsigned char> vec(8, 0xAB);
-    PutBytes(vec, 0, int32_t(2));
-    PutBytes(vec, 4, uint8_t(24));
-    SZelSatID stSat;
-    uint64_t ulOffset = 0;
-    EXPECT_TRUE(stSat.loadData(vec.data(), vec.size(), &ulOffset));
-    EXPECT_EQ(Sat(ZELSATSYSTEM_GLONASS, 24), stSat);
-    EXPECT_EQ(8u, ulOffset);
+    typedef SIdCase<TypeParam> Case;
+    EXPECT_EQ(Case::c_ulSize, TypeParam().getSize());
+    EXPECT_EQ(Case::c_ulSize, Case::Sample().getSize());
 }
 
-TEST(Binary, FrqTMdIDImage)
+TYPED_TEST(IdentifierRecord, Line)
 {
-    std::vector<unsigned char> vec(8, 0);
-    PutBytes(vec, 0, int32_t(3));
-    PutBytes(vec, 4, int32_t(10));
-    CheckImage(SZelFrqTMdID(ZELFREQUENCY_GROUP_3, ZELTRACKMODE_Q), vec, true);
+    ZelTest::ExpectTextExact(SIdCase<TypeParam>::Sample(), SIdCase<TypeParam>::c_szLine);
 }
 
-TEST(Binary, SatFrqIDImage)
+TYPED_TEST(IdentifierRecord, InequalityAndOrderAgainstTheDefault)
 {
-    std::vector<unsigned char> vec(12, 0);
-    PutBytes(vec, 0, int32_t(1));
-    PutBytes(vec, 4, uint8_t(5));
-    PutBytes(vec, 8, int32_t(2));
-    CheckImage(SZelSatFrqID(Sat(ZELSATSYSTEM_GPS, 5), ZELFREQUENCY_GROUP_2), vec, false);
+    const TypeParam stSample = SIdCase<TypeParam>::Sample();
+    EXPECT_TRUE(stSample != TypeParam());
+    EXPECT_FALSE(stSample != stSample);
+    EXPECT_TRUE(TypeParam() < stSample);
+    EXPECT_FALSE(stSample < TypeParam());
+    EXPECT_FALSE(stSample < stSample);
 }
 
-TEST(Binary, SysFrqIDImage)
+// Whatever a reader takes writes back the same bytes, the filling bytes of
+// a satellite as zero; a buffer shorter than the image is refused.
+TYPED_TEST(IdentifierRecord, RandomImagesReadBackTheirBytes)
 {
-    std::vector<unsigned char> vec(8, 0);
-    PutBytes(vec, 0, int32_t(3));
-    PutBytes(vec, 4, int32_t(6));
-    CheckImage(SZelSysFrqID(ZELSATSYSTEM_GALILEO, ZELFREQUENCY_GROUP_6), vec, true);
-}
-
-TEST(Binary, SysFrqTMdGroupIDImage)
-{
-    std::vector<unsigned char> vec(12, 0);
-    PutBytes(vec, 0, int32_t(1));
-    PutBytes(vec, 4, int32_t(2));
-    PutBytes(vec, 8, uint32_t(0x804));
-    CheckImage(SZelSysFrqTMdGroupID(ZELSATSYSTEM_GPS, ZELFREQUENCY_GROUP_2, 0x804), vec, true);
-}
-
-TEST(Binary, SatFrqTMdGroupIDImage)
-{
-    std::vector<unsigned char> vec(16, 0);
-    PutBytes(vec, 0, int32_t(5));
-    PutBytes(vec, 4, uint8_t(61));
-    PutBytes(vec, 8, int32_t(4));
-    PutBytes(vec, 12, uint32_t(0x100));
-    CheckImage(SZelSatFrqTMdGroupID(Sat(ZELSATSYSTEM_BEIDOU, 61), ZELFREQUENCY_GROUP_4, ZELTRACKMODE_P), vec,
-               false);
-}
-
-TEST(Binary, ReadersSurviveRandomAndShortInput)
-{
+    typedef SIdCase<TypeParam> Case;
     std::mt19937 stGen(12345);
     for (int iRound = 0; iRound < 500; ++iRound)
     {
@@ -598,21 +604,52 @@ TEST(Binary, ReadersSurviveRandomAndShortInput)
         {
             ruc = static_cast<unsigned char>(stGen());
         }
+        TypeParam stRead;
         uint64_t ulOffset = 0;
-        SZelSatID stSat;
-        const bool bSat = stSat.loadData(vec.data(), vec.size(), &ulOffset);
-        EXPECT_EQ(ulLength >= 8, bSat);
-        SZelSatFrqTMdGroupID stSig;
-        const bool bSig = stSig.loadData(vec.data(), vec.size(), &ulOffset);
-        EXPECT_EQ(ulLength >= 16, bSig);
+        const bool bRead = stRead.loadData(vec.data(), vec.size(), &ulOffset);
+        EXPECT_EQ(ulLength >= Case::c_ulSize, bRead);
+        if (!bRead)
+        {
+            continue;
+        }
+        std::vector<unsigned char> vecOut(Case::c_ulSize, 0xEE);
+        EXPECT_TRUE(stRead.saveData(vecOut.data(), vecOut.size(), &ulOffset));
+        for (size_t ulIdx = 0; ulIdx < vecOut.size(); ++ulIdx)
+        {
+            const bool bFilling = Case::c_iSatAt >= 0 && ulIdx >= static_cast<size_t>(Case::c_iSatAt) + 5 &&
+                                  ulIdx < static_cast<size_t>(Case::c_iSatAt) + 8;
+            EXPECT_EQ(bFilling ? 0 : vec[ulIdx], vecOut[ulIdx]) << ulIdx;
+        }
         // Whatever was read must be usable.
-        (void)stSig.isValid();
-        (void)ToText(stSig);
-        SZelSysFrqTMdGroupID stSys;
-        stSys.loadData(vec.data(), vec.size(), &ulOffset);
-        (void)stSys.isValid();
-        (void)ToText(stSys);
+        (void)stRead.isValid();
+        (void)ToText(stRead);
     }
+}
+
+// The filling bytes of a satellite are passed over by the reader.
+TYPED_TEST(SatelliteKey, ReaderIgnoresFillingBytes)
+{
+    typedef SIdCase<TypeParam> Case;
+    ZelTest::Bytes vecImage = Case::Golden();
+    for (size_t ulIdx = 5; ulIdx < 8; ++ulIdx)
+    {
+        vecImage[ulIdx] = 0xAB;
+    }
+    TypeParam stRead;
+    uint64_t ulOffset = 0;
+    EXPECT_TRUE(stRead.loadData(vecImage.data(), vecImage.size(), &ulOffset));
+    EXPECT_EQ(Case::Sample(), stRead);
+    EXPECT_EQ(Case::c_ulSize, ulOffset);
+}
+
+TEST(Binary, SatIDReaderIgnoresFillingBytes)
+{
+    const ZelTest::Bytes vecImage = CImage().At(0).I32(2).At(4).U8(24).At(5).Fill(3, 0xAB).Get();
+    SZelSatID stSat;
+    uint64_t ulOffset = 0;
+    EXPECT_TRUE(stSat.loadData(vecImage.data(), vecImage.size(), &ulOffset));
+    EXPECT_EQ(Sat(ZELSATSYSTEM_GLONASS, 24), stSat);
+    EXPECT_EQ(8u, ulOffset);
 }
 
 // ---------------------------------------------------------------------------
@@ -813,20 +850,6 @@ TEST(Text, SystemSets)
     EXPECT_EQ(0u, stRec.Count());
 }
 
-TEST(Text, SysFrqTMdGroupID)
-{
-    CRecorder stRec;
-    const SZelSysFrqTMdGroupID stID(ZELSATSYSTEM_GPS, ZELFREQUENCY_GROUP_2,
-                                    ToTMdGroup(ZELTRACKMODE_C) | ToTMdGroup(ZELTRACKMODE_W));
-    EXPECT_EQ("G:L2:C|W", ToText(stID));
-    std::istringstream iss("G:L2:C|W");
-    SZelSysFrqTMdGroupID stRead;
-    iss >> stRead;
-    EXPECT_EQ(stID, stRead);
-    EXPECT_FALSE(iss.fail());
-    EXPECT_EQ(0u, stRec.Count());
-}
-
 TEST(Text, SysFrqTMdGroupIDBadSystemOrName)
 {
     CRecorder stRec;
@@ -876,12 +899,9 @@ TEST(Text, SatFrqTMdGroupID)
 
     // As part of a tagged line: the position stays right.
     std::istringstream issLine("SigId, C19:B1C:P, Bias, 1.5");
-    std::string strTag;
     SZelSatFrqTMdGroupID stSig;
     double dBias = 0.0;
-    issLine >> strTag >> stSig;
-    ZelIo::SkipSeparator(issLine);
-    issLine >> dBias;
+    ZelIo::CTextReader(issLine).Tag("SigId, ").Value(stSig).Tag(", Bias, ").Value(dBias);
     EXPECT_EQ(SZelSatFrqTMdGroupID(Sat(ZELSATSYSTEM_BEIDOU, 19), ZELFREQUENCY_GROUP_4, ZELTRACKMODE_P),
               stSig);
     EXPECT_EQ(1.5, dBias);

@@ -1,7 +1,8 @@
 // Signal and satellite observation records: flags, comparison, default track
 // modes with their once-only latches, signal-class marking, binary and text forms.
 
-#include "ZelTestHooks.h"
+#include "ZelSamplesObservations.h"
+#include "ZelTestKit.h"
 
 #include <ZelTypes/Core/Common/ZelTypesObs.h>
 
@@ -17,6 +18,10 @@
 #include <vector>
 
 using namespace ZELN;
+using ZelSample::FreqObs;
+using ZelSample::SatObs;
+using ZelTest::Bytes;
+using ZelTest::CImage;
 
 namespace
 {
@@ -77,93 +82,39 @@ struct SLatchProbe
 SLatchProbe s_LatchProbe;
 
 // ---------------------------------------------------------------------------
-// Helpers
+// Hand-made images, by the offset tables
 // ---------------------------------------------------------------------------
 
-template <class T> void Put(std::vector<unsigned char>& vecImage, size_t ulOffset, T tValue)
+// One signal record, 72 bytes, its reserved bytes zero.
+Bytes SignalImage(const SZelFreqObservation& r)
 {
-    std::memcpy(&vecImage[ulOffset], &tValue, sizeof(T));
+    CImage stImage;
+    stImage.At(0).U32(r.ulObsFlags).At(4).I32(r.eFrequency).At(8).I32(r.eTrackMode).Zero(4);
+    stImage.At(16).F64(r.dPhase).At(24).F64(r.dCode).At(32).F64(r.dDopplerM).At(40).F64(r.dDopplerC);
+    stImage.At(48).U16(r.unContMeasCount10Msec).At(50).U16(r.unCNo).At(52).U16(r.unPhaseRms100thMm);
+    stImage.At(54).U16(r.unRangeRmsMm).At(56).I16(r.nTimeOffsetRTCM9).Zero(2);
+    stImage.At(60).F32(r.fVelocity).At(64).F32(r.fAcceleration).Zero(4).At(72);
+    return stImage;
 }
 
-SZelFreqObservation MakeSignal(uint32_t ulFlags, int32_t lFrq, int32_t lMode, double dBase)
+// The 15-byte head, then the filled signal records.
+Bytes SatImage(const SZelSatObservation& r)
 {
-    SZelFreqObservation stObs;
-    stObs.ulObsFlags = ulFlags;
-    stObs.eFrequency = static_cast<EZelFrequency>(lFrq);
-    stObs.eTrackMode = static_cast<EZelTrackMode>(lMode);
-    stObs.dPhase = dBase + 0.125;
-    stObs.dCode = dBase / 7.0;
-    stObs.dDopplerM = -1234.5 - dBase / 1e6;
-    stObs.dDopplerC = 17.25;
-    stObs.unContMeasCount10Msec = 1000;
-    stObs.unCNo = 451;
-    stObs.unPhaseRms100thMm = 12;
-    stObs.unRangeRmsMm = 300;
-    stObs.nTimeOffsetRTCM9 = -5;
-    stObs.fVelocity = 1.5f;
-    stObs.fAcceleration = -0.25f;
-    return stObs;
-}
-
-SZelSatObservation MakeSat(EZelSatSystem eSys, uint8_t uiNumber, uint8_t uiNumFreq)
-{
-    SZelSatObservation stSat;
-    stSat.stSatId = SZelSatID(eSys, uiNumber);
-    stSat.ulIOD = 74565;
-    stSat.ucSatFlags = 0x1f;
-    stSat.ucChannel = 7;
-    stSat.uiNumFreq = uiNumFreq;
-    for (uint8_t uiIdx = 0; uiIdx < uiNumFreq && uiIdx < 6; ++uiIdx)
+    CImage stImage;
+    stImage.At(0).I32(r.stSatId.eSatSystem).At(4).U8(r.stSatId.uiSatNumber).Zero(3).At(8).U32(r.ulIOD);
+    stImage.At(12).U8(r.ucSatFlags).At(13).U8(r.ucChannel).At(14).U8(r.uiNumFreq).At(15);
+    for (size_t ulIdx = 0; ulIdx < r.uiNumFreq; ++ulIdx)
     {
-        stSat.astFreqObs[uiIdx] = MakeSignal(0x2Fu, 1 + uiIdx, 3 + uiIdx, 2.0e7 + 1000.0 * uiIdx);
+        stImage.Append(SignalImage(r.astFreqObs[ulIdx]));
     }
-    return stSat;
+    return stImage;
 }
 
-// The 72 bytes of one signal record, by the offset table.
-void PutSignal(std::vector<unsigned char>& vecImage, size_t ulAt, const SZelFreqObservation& rstObs)
+Bytes Save(const SZelSatObservation& rstSat)
 {
-    Put<uint32_t>(vecImage, ulAt + 0, rstObs.ulObsFlags);
-    Put<int32_t>(vecImage, ulAt + 4, rstObs.eFrequency);
-    Put<int32_t>(vecImage, ulAt + 8, rstObs.eTrackMode);
-    Put<double>(vecImage, ulAt + 16, rstObs.dPhase);
-    Put<double>(vecImage, ulAt + 24, rstObs.dCode);
-    Put<double>(vecImage, ulAt + 32, rstObs.dDopplerM);
-    Put<double>(vecImage, ulAt + 40, rstObs.dDopplerC);
-    Put<uint16_t>(vecImage, ulAt + 48, rstObs.unContMeasCount10Msec);
-    Put<uint16_t>(vecImage, ulAt + 50, rstObs.unCNo);
-    Put<uint16_t>(vecImage, ulAt + 52, rstObs.unPhaseRms100thMm);
-    Put<uint16_t>(vecImage, ulAt + 54, rstObs.unRangeRmsMm);
-    Put<int16_t>(vecImage, ulAt + 56, rstObs.nTimeOffsetRTCM9);
-    Put<float>(vecImage, ulAt + 60, rstObs.fVelocity);
-    Put<float>(vecImage, ulAt + 64, rstObs.fAcceleration);
-}
-
-std::vector<unsigned char> SatImage(const SZelSatObservation& rstSat)
-{
-    std::vector<unsigned char> vecImage(15 + 72 * static_cast<size_t>(rstSat.uiNumFreq), 0);
-    Put<int32_t>(vecImage, 0, rstSat.stSatId.eSatSystem);
-    Put<uint8_t>(vecImage, 4, rstSat.stSatId.uiSatNumber);
-    Put<uint32_t>(vecImage, 8, rstSat.ulIOD);
-    Put<uint8_t>(vecImage, 12, rstSat.ucSatFlags);
-    Put<uint8_t>(vecImage, 13, rstSat.ucChannel);
-    Put<uint8_t>(vecImage, 14, rstSat.uiNumFreq);
-    for (size_t ulIdx = 0; ulIdx < rstSat.uiNumFreq; ++ulIdx)
-    {
-        PutSignal(vecImage, 15 + 72 * ulIdx, rstSat.astFreqObs[ulIdx]);
-    }
-    return vecImage;
-}
-
-std::vector<unsigned char> Save(const SZelSatObservation& rstSat, uint64_t* pulUsed = nullptr)
-{
-    std::vector<unsigned char> vecOut(static_cast<size_t>(rstSat.getSize()), 0xAA);
+    Bytes vecOut(static_cast<size_t>(rstSat.getSize()), 0xAA);
     uint64_t ulUsed = 99;
     EXPECT_TRUE(rstSat.saveData(vecOut.data(), vecOut.size(), &ulUsed));
-    if (pulUsed != nullptr)
-    {
-        *pulUsed = ulUsed;
-    }
     return vecOut;
 }
 
@@ -336,7 +287,7 @@ TEST(DefaultTrackMode, GetTrackModeDefaultsOnlyForModeZero)
 
 TEST(FreqObservation, DefaultsAndReset)
 {
-    SZelFreqObservation stObs = MakeSignal(0xFFFFFFFFu, 5, 9, 1.0);
+    SZelFreqObservation stObs = FreqObs(0xFFFFFFFFu, 5, 9, 1.0);
     stObs.Reset();
     EXPECT_EQ(stObs.ulObsFlags, 0u);
     EXPECT_EQ(stObs.eFrequency, 0);
@@ -361,7 +312,7 @@ TEST(SatObservation, DefaultsResetAndConstants)
     EXPECT_EQ(SZelSatObservation::MAX_FREQUENCIESOBSERVED, 6u);
     EXPECT_EQ(c_ulFREQOBS_SIZE, 72u);
     EXPECT_EQ(c_ulSATOBS_HEAD_SIZE, 15u);
-    SZelSatObservation stSat = MakeSat(ZELSATSYSTEM_GALILEO, 11, 6);
+    SZelSatObservation stSat = SatObs(ZELSATSYSTEM_GALILEO, 11, 6);
     stSat.Reset();
     EXPECT_EQ(stSat.stSatId.eSatSystem, ZELSATSYSTEM_NONE);
     EXPECT_EQ(stSat.stSatId.uiSatNumber, 0);
@@ -384,7 +335,7 @@ TEST(SatObservation, TriviallyCopyableBlockCopy)
     EXPECT_TRUE(std::is_trivially_copyable<SZelFreqObservation>::value);
     EXPECT_TRUE(std::is_trivially_copyable<SZelSatObservation>::value);
     EXPECT_FALSE(std::is_polymorphic<SZelSatObservation>::value);
-    const SZelSatObservation stSource = MakeSat(ZELSATSYSTEM_BEIDOU, 33, 4);
+    const SZelSatObservation stSource = SatObs(ZELSATSYSTEM_BEIDOU, 33, 4);
     SZelSatObservation stCopy;
     std::memcpy(static_cast<void*>(&stCopy), &stSource, sizeof(stCopy));
     EXPECT_TRUE(stCopy == stSource);
@@ -520,7 +471,7 @@ TEST(FreqObservation, IsFourAndContMeasCount)
 TEST(FreqObservationCompare, EqualRecordsAreSilent)
 {
     ZelTest::CRecordingHook stHook;
-    const SZelFreqObservation stA = MakeSignal(0x1FF, 4, 12, 2.2e7);
+    const SZelFreqObservation stA = FreqObs(0x1FF, 4, 12, 2.2e7);
     const SZelFreqObservation stB = stA;
     EXPECT_TRUE(stA == stB);
     EXPECT_FALSE(stA != stB);
@@ -530,7 +481,7 @@ TEST(FreqObservationCompare, EqualRecordsAreSilent)
 TEST(FreqObservationCompare, PhaseIgnoredWhenBitZeroClear)
 {
     ZelTest::CRecordingHook stHook;
-    SZelFreqObservation stA = MakeSignal(0x0, 1, 3, 1.0);
+    SZelFreqObservation stA = FreqObs(0x0, 1, 3, 1.0);
     SZelFreqObservation stB = stA;
     stB.dPhase += 1.0;
     EXPECT_TRUE(stA == stB);
@@ -560,7 +511,7 @@ TEST(FreqObservationCompare, EachGatedFieldFollowsItsBit)
     ZelTest::CRecordingHook stHook;
     for (const SGate& rGate : astGates)
     {
-        SZelFreqObservation stA = MakeSignal(0x1FFu & ~rGate.ulMask, 1, 3, 1.0);
+        SZelFreqObservation stA = FreqObs(0x1FFu & ~rGate.ulMask, 1, 3, 1.0);
         SZelFreqObservation stB = stA;
         rGate.pfnChange(stB);
         EXPECT_TRUE(stA == stB) << std::hex << rGate.ulMask;
@@ -573,7 +524,7 @@ TEST(FreqObservationCompare, EachGatedFieldFollowsItsBit)
 
 TEST(FreqObservationCompare, NaNPhaseWithBitZeroIsUnequalToItself)
 {
-    SZelFreqObservation stObs = MakeSignal(0x1, 1, 3, 1.0);
+    SZelFreqObservation stObs = FreqObs(0x1, 1, 3, 1.0);
     stObs.dPhase = std::numeric_limits<double>::quiet_NaN();
     EXPECT_FALSE(stObs == stObs);
     EXPECT_TRUE(stObs != stObs);
@@ -583,7 +534,7 @@ TEST(FreqObservationCompare, NaNPhaseWithBitZeroIsUnequalToItself)
 
 TEST(FreqObservationCompare, IdentityFieldsMustMatch)
 {
-    const SZelFreqObservation stA = MakeSignal(0x3, 1, 3, 1.0);
+    const SZelFreqObservation stA = FreqObs(0x3, 1, 3, 1.0);
     SZelFreqObservation stB = stA;
     stB.eFrequency = ZELFREQUENCY_L2P;
     EXPECT_FALSE(stA == stB);
@@ -614,14 +565,14 @@ TEST(FreqObservationCompare, SecondaryValuesReportAndStayEqual)
     {
         ZelTest::CRecordingHook stHook;
         // Compared whatever the flags say.
-        const SZelFreqObservation stA = MakeSignal(0x0, 1, 3, 1.0);
+        const SZelFreqObservation stA = FreqObs(0x0, 1, 3, 1.0);
         SZelFreqObservation stB = stA;
         rSecondary.pfnChange(stB);
         EXPECT_TRUE(stA == stB);
         EXPECT_EQ(stHook.Texts(), std::vector<std::string>{rSecondary.szText});
     }
     ZelTest::CRecordingHook stHook;
-    const SZelFreqObservation stA = MakeSignal(0x1FF, 1, 3, 1.0);
+    const SZelFreqObservation stA = FreqObs(0x1FF, 1, 3, 1.0);
     SZelFreqObservation stB = stA;
     for (const SSecondary& rSecondary : astSecondary)
     {
@@ -635,7 +586,7 @@ TEST(FreqObservationCompare, SecondaryValuesReportAndStayEqual)
 TEST(FreqObservationCompare, AFirstDifferenceEndsBeforeTheSecondaryValues)
 {
     ZelTest::CRecordingHook stHook;
-    const SZelFreqObservation stA = MakeSignal(0x1, 1, 3, 1.0);
+    const SZelFreqObservation stA = FreqObs(0x1, 1, 3, 1.0);
     SZelFreqObservation stB = stA;
     stB.dPhase = 5.0;
     stB.unPhaseRms100thMm = 99;
@@ -646,7 +597,7 @@ TEST(FreqObservationCompare, AFirstDifferenceEndsBeforeTheSecondaryValues)
 TEST(SatObservationCompare, IodOnlyReported)
 {
     ZelTest::CRecordingHook stHook;
-    const SZelSatObservation stA = MakeSat(ZELSATSYSTEM_GPS, 5, 3);
+    const SZelSatObservation stA = SatObs(ZELSATSYSTEM_GPS, 5, 3);
     SZelSatObservation stB = stA;
     EXPECT_TRUE(stA == stB);
     EXPECT_EQ(stHook.Count(), 0u);
@@ -658,7 +609,7 @@ TEST(SatObservationCompare, IodOnlyReported)
 
 TEST(SatObservationCompare, HeadAndFilledSignalsDecide)
 {
-    const SZelSatObservation stA = MakeSat(ZELSATSYSTEM_GPS, 5, 3);
+    const SZelSatObservation stA = SatObs(ZELSATSYSTEM_GPS, 5, 3);
     SZelSatObservation stB = stA;
     stB.stSatId.uiSatNumber = 6;
     EXPECT_FALSE(stA == stB);
@@ -686,7 +637,7 @@ TEST(SatObservationCompare, HeadAndFilledSignalsDecide)
 
 TEST(SatObservationCompare, CountAboveTheArrayComparesSixRecords)
 {
-    SZelSatObservation stA = MakeSat(ZELSATSYSTEM_GPS, 5, 6);
+    SZelSatObservation stA = SatObs(ZELSATSYSTEM_GPS, 5, 6);
     stA.uiNumFreq = 200;
     SZelSatObservation stB = stA;
     EXPECT_TRUE(stA == stB);
@@ -724,7 +675,7 @@ TEST(SatObservation, StateFourOverFilledSignals)
     EXPECT_FALSE(stSat.HasState4());
     stSat.astFreqObs[0].SetState4(true);
     EXPECT_FALSE(stSat.HasState4()); // empty record
-    stSat = MakeSat(ZELSATSYSTEM_GPS, 1, 2);
+    stSat = SatObs(ZELSATSYSTEM_GPS, 1, 2);
     EXPECT_FALSE(stSat.HasState4());
     stSat.astFreqObs[1].SetState4(true);
     EXPECT_TRUE(stSat.HasState4());
@@ -781,7 +732,7 @@ TEST(SatObservation, MarkSignalClassesTableRowByRow)
 
 TEST(SatObservation, MarkSignalClassesNeverClearsAndStopsAtTheCount)
 {
-    SZelSatObservation stSat = MakeSat(ZELSATSYSTEM_GALILEO, 3, 2);
+    SZelSatObservation stSat = SatObs(ZELSATSYSTEM_GALILEO, 3, 2);
     stSat.astFreqObs[0].eFrequency = ZELFREQUENCY_E5A;
     stSat.astFreqObs[0].ulObsFlags = 0x60000u;
     stSat.astFreqObs[1].eFrequency = ZELFREQUENCY_E6;
@@ -806,121 +757,64 @@ TEST(SatObservationBinary, GoldenImageTwoSignals)
     stSat.ucSatFlags = 0x1f;
     stSat.ucChannel = 7;
     stSat.uiNumFreq = 2;
-    stSat.astFreqObs[0] = MakeSignal(0x2F, 1, 3, 123456789.0);
-    stSat.astFreqObs[1] = MakeSignal(0x1003, 4, 12, 98765432.0);
-    stSat.astFreqObs[2] = MakeSignal(0x1, 5, 10, 1.0); // beyond the count: not written
+    stSat.astFreqObs[0] = FreqObs(0x2F, 1, 3, 123456789.0);
+    stSat.astFreqObs[1] = FreqObs(0x1003, 4, 12, 98765432.0);
+    stSat.astFreqObs[2] = FreqObs(0x1, 5, 10, 1.0); // beyond the count: not written
 
-    std::vector<unsigned char> vecExpected(159, 0);
-    Put<int32_t>(vecExpected, 0, 1);
-    Put<uint8_t>(vecExpected, 4, 5);
-    Put<uint32_t>(vecExpected, 8, 74565);
-    Put<uint8_t>(vecExpected, 12, 0x1f);
-    Put<uint8_t>(vecExpected, 13, 7);
-    Put<uint8_t>(vecExpected, 14, 2);
-    Put<uint32_t>(vecExpected, 15 + 0, 0x2F);
-    Put<int32_t>(vecExpected, 15 + 4, 1);
-    Put<int32_t>(vecExpected, 15 + 8, 3);
-    Put<double>(vecExpected, 15 + 16, 123456789.125);
-    Put<double>(vecExpected, 15 + 24, 123456789.0 / 7.0);
-    Put<double>(vecExpected, 15 + 32, -1234.5 - 123456789.0 / 1e6);
-    Put<double>(vecExpected, 15 + 40, 17.25);
-    Put<uint16_t>(vecExpected, 15 + 48, 1000);
-    Put<uint16_t>(vecExpected, 15 + 50, 451);
-    Put<uint16_t>(vecExpected, 15 + 52, 12);
-    Put<uint16_t>(vecExpected, 15 + 54, 300);
-    Put<int16_t>(vecExpected, 15 + 56, -5);
-    Put<float>(vecExpected, 15 + 60, 1.5f);
-    Put<float>(vecExpected, 15 + 64, -0.25f);
-    Put<uint32_t>(vecExpected, 87 + 0, 0x1003);
-    Put<int32_t>(vecExpected, 87 + 4, 4);
-    Put<int32_t>(vecExpected, 87 + 8, 12);
-    Put<double>(vecExpected, 87 + 16, 98765432.125);
-    Put<double>(vecExpected, 87 + 24, 98765432.0 / 7.0);
-    Put<double>(vecExpected, 87 + 32, -1234.5 - 98765432.0 / 1e6);
-    Put<double>(vecExpected, 87 + 40, 17.25);
-    Put<uint16_t>(vecExpected, 87 + 48, 1000);
-    Put<uint16_t>(vecExpected, 87 + 50, 451);
-    Put<uint16_t>(vecExpected, 87 + 52, 12);
-    Put<uint16_t>(vecExpected, 87 + 54, 300);
-    Put<int16_t>(vecExpected, 87 + 56, -5);
-    Put<float>(vecExpected, 87 + 60, 1.5f);
-    Put<float>(vecExpected, 87 + 64, -0.25f);
+    CImage stExpected;
+    stExpected.At(0).I32(1).U8(5).Zero(3).At(8).U32(74565).At(12).U8(0x1f).U8(7).U8(2);
+    stExpected.At(15 + 0).U32(0x2F).I32(1).I32(3).Zero(4);
+    stExpected.At(15 + 16).F64(123456789.125).F64(123456789.0 / 7.0).F64(-1234.5 - 123456789.0 / 1e6);
+    stExpected.At(15 + 40).F64(17.25).U16(1000).U16(451).U16(12).U16(300).I16(-5).Zero(2);
+    stExpected.At(15 + 60).F32(1.5f).F32(-0.25f).Zero(4);
+    stExpected.At(87 + 0).U32(0x1003).I32(4).I32(12).Zero(4);
+    stExpected.At(87 + 16).F64(98765432.125).F64(98765432.0 / 7.0).F64(-1234.5 - 98765432.0 / 1e6);
+    stExpected.At(87 + 40).F64(17.25).U16(1000).U16(451).U16(12).U16(300).I16(-5).Zero(2);
+    stExpected.At(87 + 60).F32(1.5f).F32(-0.25f).Zero(4).At(159);
+    const Bytes& vecExpected = stExpected;
+    // A target holding as many signals: one byte short fails the first test.
+    ZelTest::ExpectCoreImage(stSat, vecExpected, ZelTest::SCoreRules(), SatObs(ZELSATSYSTEM_QZSS, 2, 2));
 
-    ZelTest::CRecordingHook stHook;
-    EXPECT_EQ(stSat.getSize(), 159u);
-    std::vector<unsigned char> vecOut(159, 0xAA);
+    // Records beyond the count are not read either.
+    SZelSatObservation stBack;
     uint64_t ulUsed = 0;
-    ASSERT_TRUE(stSat.saveData(vecOut.data(), vecOut.size(), &ulUsed));
-    EXPECT_EQ(ulUsed, 159u);
-    EXPECT_EQ(vecOut, vecExpected);
-
-    SZelSatObservation stBack;
-    ulUsed = 0;
     ASSERT_TRUE(stBack.loadData(vecExpected.data(), vecExpected.size(), &ulUsed));
-    EXPECT_EQ(ulUsed, 159u);
-    EXPECT_TRUE(stBack == stSat);
     EXPECT_EQ(stBack.ulIOD, 74565u);
-    EXPECT_EQ(stBack.astFreqObs[2].eFrequency, 0); // beyond the count: untouched
-    EXPECT_EQ(stHook.Count(), 0u);
-}
-
-TEST(SatObservationBinary, ExactBufferOneShortAndNull)
-{
-    const SZelSatObservation stSat = MakeSat(ZELSATSYSTEM_GLONASS, 24, 3);
-    std::vector<unsigned char> vecOut(static_cast<size_t>(stSat.getSize()), 0xAA);
-    const std::vector<unsigned char> vecUntouched = vecOut;
-    ZelTest::CRecordingHook stHook;
-    uint64_t ulUsed = 77;
-    EXPECT_FALSE(stSat.saveData(vecOut.data(), vecOut.size() - 1, &ulUsed));
-    EXPECT_EQ(ulUsed, 0u);
-    EXPECT_EQ(vecOut, vecUntouched);
-    EXPECT_FALSE(stSat.saveData(nullptr, 1000, &ulUsed));
-    EXPECT_EQ(stHook.Texts(), (std::vector<std::string>{"false", "false"}));
-    stHook.Clear();
-    EXPECT_TRUE(stSat.saveData(vecOut.data(), vecOut.size(), &ulUsed));
-    EXPECT_EQ(ulUsed, stSat.getSize());
-    EXPECT_EQ(vecOut, SatImage(stSat));
-
-    SZelSatObservation stBack;
-    EXPECT_FALSE(stBack.loadData(nullptr, 1000, &ulUsed));
-    EXPECT_EQ(stHook.Texts(), std::vector<std::string>{"false"});
-    EXPECT_TRUE(stBack == SZelSatObservation());
-    stHook.Clear();
-    EXPECT_TRUE(stBack.loadData(vecOut.data(), vecOut.size(), &ulUsed));
-    EXPECT_EQ(ulUsed, vecOut.size());
-    EXPECT_TRUE(stBack == stSat);
-    EXPECT_EQ(stHook.Count(), 0u);
+    EXPECT_EQ(stBack.astFreqObs[2].eFrequency, 0);
 }
 
 TEST(SatObservationBinary, EmptyRecordWritesFifteenBytes)
 {
     SZelSatObservation stSat;
     stSat.stSatId = SZelSatID(ZELSATSYSTEM_SBAS, 20);
-    uint64_t ulUsed = 0;
-    const std::vector<unsigned char> vecOut = Save(stSat, &ulUsed);
-    EXPECT_EQ(vecOut.size(), 15u);
-    EXPECT_EQ(ulUsed, 15u);
-    EXPECT_EQ(vecOut, SatImage(stSat));
+    ZelTest::ExpectCoreImage(stSat,
+                             CImage().At(0).I32(4).U8(20).Zero(3).At(8).U32(0xFFFFFFFFu).Zero(3).At(15));
 }
 
 TEST(SatObservationBinary, SixSignalsRoundTrip)
 {
-    const SZelSatObservation stSat = MakeSat(ZELSATSYSTEM_BEIDOU, 63, 6);
-    uint64_t ulUsed = 0;
-    const std::vector<unsigned char> vecOut = Save(stSat, &ulUsed);
-    EXPECT_EQ(ulUsed, 15u + 6u * 72u);
-    EXPECT_EQ(vecOut, SatImage(stSat));
-    SZelSatObservation stBack;
-    EXPECT_TRUE(stBack.loadData(vecOut.data(), vecOut.size(), &ulUsed));
-    EXPECT_TRUE(stBack == stSat);
+    const SZelSatObservation stSat = SatObs(ZELSATSYSTEM_BEIDOU, 63, 6);
+    const Bytes vecImage = SatImage(stSat);
+    EXPECT_EQ(vecImage.size(), 15u + 6u * 72u);
+    ZelTest::ExpectCoreImage(stSat, vecImage, ZelTest::SCoreRules(), SatObs(ZELSATSYSTEM_GPS, 1, 6));
+}
+
+TEST(SatObservationBinary, SizesOfTheImages)
+{
+    EXPECT_EQ(c_ulFREQOBS_SIZE, 72u);
+    EXPECT_EQ(c_ulSATOBS_HEAD_SIZE, 15u);
+    EXPECT_EQ(ZelIo::SizeOf(SZelFreqObservation()), c_ulFREQOBS_SIZE);
+    EXPECT_EQ(SignalImage(SZelFreqObservation()).size(), c_ulFREQOBS_SIZE);
+    EXPECT_EQ(SZelSatObservation().getSize(), c_ulSATOBS_HEAD_SIZE);
+    EXPECT_EQ(SatObs(ZELSATSYSTEM_GPS, 1, 4).getSize(), 15u + 4u * 72u);
 }
 
 TEST(SatObservationBinary, SeventhSignalCannotBeWritten)
 {
-    SZelSatObservation stSat = MakeSat(ZELSATSYSTEM_GPS, 1, 6);
+    SZelSatObservation stSat = SatObs(ZELSATSYSTEM_GPS, 1, 6);
     stSat.uiNumFreq = 7;
     EXPECT_EQ(stSat.getSize(), 15u + 7u * 72u);
-    std::vector<unsigned char> vecOut(static_cast<size_t>(stSat.getSize()), 0xAA);
+    Bytes vecOut(static_cast<size_t>(stSat.getSize()), 0xAA);
     ZelTest::CRecordingHook stHook;
     uint64_t ulUsed = 0;
     EXPECT_FALSE(stSat.saveData(vecOut.data(), vecOut.size(), &ulUsed));
@@ -929,7 +823,7 @@ TEST(SatObservationBinary, SeventhSignalCannotBeWritten)
     // Six records stand; the bytes after them are untouched.
     SZelSatObservation stSix = stSat;
     stSix.uiNumFreq = 6;
-    std::vector<unsigned char> vecSix = SatImage(stSix);
+    Bytes vecSix = SatImage(stSix);
     vecSix[14] = 7;
     EXPECT_TRUE(std::equal(vecSix.begin(), vecSix.end(), vecOut.begin()));
     EXPECT_EQ(vecOut[vecSix.size()], 0xAA);
@@ -937,11 +831,11 @@ TEST(SatObservationBinary, SeventhSignalCannotBeWritten)
 
 TEST(SatObservationBinary, InvalidSatelliteAndFrequencyReportAndGoOn)
 {
-    SZelSatObservation stSat = MakeSat(ZELSATSYSTEM_GPS, 33, 2);
+    SZelSatObservation stSat = SatObs(ZELSATSYSTEM_GPS, 33, 2);
     stSat.astFreqObs[0].eFrequency = ZELFREQUENCY_UNKNOWN;
     stSat.astFreqObs[1].eFrequency = static_cast<EZelFrequency>(11);
     ZelTest::CRecordingHook stHook;
-    std::vector<unsigned char> vecOut(static_cast<size_t>(stSat.getSize()));
+    Bytes vecOut(static_cast<size_t>(stSat.getSize()));
     uint64_t ulUsed = 0;
     EXPECT_TRUE(stSat.saveData(vecOut.data(), vecOut.size(), &ulUsed));
     EXPECT_EQ(stHook.Texts(), (std::vector<std::string>{"false", "false", "false"}));
@@ -959,11 +853,11 @@ TEST(SatObservationBinary, LoadTestsThePresentCountFirst)
 {
     SZelSatObservation stEmpty;
     stEmpty.stSatId = SZelSatID(ZELSATSYSTEM_GPS, 2);
-    const std::vector<unsigned char> vecImage = Save(stEmpty);
+    const Bytes vecImage = Save(stEmpty);
     ASSERT_EQ(vecImage.size(), 15u);
 
     // A target holding three signals needs 15 + 3 x 72 bytes before it reads.
-    SZelSatObservation stTarget = MakeSat(ZELSATSYSTEM_GALILEO, 4, 3);
+    SZelSatObservation stTarget = SatObs(ZELSATSYSTEM_GALILEO, 4, 3);
     const SZelSatObservation stBefore = stTarget;
     ZelTest::CRecordingHook stHook;
     uint64_t ulUsed = 5;
@@ -974,7 +868,7 @@ TEST(SatObservationBinary, LoadTestsThePresentCountFirst)
 
     // The same image in a larger buffer passes, and the reset target needs 15.
     stHook.Clear();
-    std::vector<unsigned char> vecLarge = vecImage;
+    Bytes vecLarge = vecImage;
     vecLarge.resize(15 + 3 * 72, 0xEE);
     EXPECT_TRUE(stTarget.loadData(vecLarge.data(), vecLarge.size(), &ulUsed));
     EXPECT_EQ(ulUsed, 15u);
@@ -986,10 +880,10 @@ TEST(SatObservationBinary, LoadTestsThePresentCountFirst)
 
 TEST(SatObservationBinary, CountReadBeyondTheRoomFailsSilently)
 {
-    const SZelSatObservation stSat = MakeSat(ZELSATSYSTEM_QZSS, 3, 4);
-    const std::vector<unsigned char> vecImage = Save(stSat);
+    const SZelSatObservation stSat = SatObs(ZELSATSYSTEM_QZSS, 3, 4);
+    const Bytes vecImage = Save(stSat);
     SZelSatObservation stTarget;
-    stTarget.astFreqObs[0] = MakeSignal(0x7, 5, 10, 3.0);
+    stTarget.astFreqObs[0] = FreqObs(0x7, 5, 10, 3.0);
     const SZelFreqObservation stOldSignal = stTarget.astFreqObs[0];
     ZelTest::CRecordingHook stHook;
     uint64_t ulUsed = 9;
@@ -1005,8 +899,8 @@ TEST(SatObservationBinary, CountReadBeyondTheRoomFailsSilently)
 
 TEST(SatObservationBinary, CountReadAboveSixReadsSixAndFails)
 {
-    SZelSatObservation stSat = MakeSat(ZELSATSYSTEM_GPS, 9, 6);
-    std::vector<unsigned char> vecImage = SatImage(stSat);
+    SZelSatObservation stSat = SatObs(ZELSATSYSTEM_GPS, 9, 6);
+    Bytes vecImage = SatImage(stSat);
     vecImage[14] = 7;
     vecImage.resize(15 + 7 * 72, 0);
     SZelSatObservation stTarget;
@@ -1031,8 +925,8 @@ TEST(SatObservationBinary, CountReadAboveSixReadsSixAndFails)
 
 TEST(SatObservationBinary, ReservedBytesAreWrittenZeroAndIgnoredOnLoad)
 {
-    const SZelSatObservation stSat = MakeSat(ZELSATSYSTEM_NAVIC, 9, 1);
-    std::vector<unsigned char> vecImage = Save(stSat);
+    const SZelSatObservation stSat = SatObs(ZELSATSYSTEM_NAVIC, 9, 1);
+    Bytes vecImage = Save(stSat);
     for (size_t ulOffset :
          {5u, 6u, 7u, 15u + 12u, 15u + 13u, 15u + 14u, 15u + 15u, 15u + 58u, 15u + 59u, 15u + 68u, 15u + 71u})
     {
@@ -1047,8 +941,8 @@ TEST(SatObservationBinary, ReservedBytesAreWrittenZeroAndIgnoredOnLoad)
 
 TEST(SatObservationBinary, EveryTruncationFailsAndRandomInputSurvives)
 {
-    const SZelSatObservation stSat = MakeSat(ZELSATSYSTEM_GALILEO, 30, 5);
-    const std::vector<unsigned char> vecImage = Save(stSat);
+    const SZelSatObservation stSat = SatObs(ZELSATSYSTEM_GALILEO, 30, 5);
+    const Bytes vecImage = Save(stSat);
     ZelTest::CRecordingHook stHook;
     for (size_t ulLength = 0; ulLength < vecImage.size(); ++ulLength)
     {
@@ -1058,7 +952,7 @@ TEST(SatObservationBinary, EveryTruncationFailsAndRandomInputSurvives)
         EXPECT_EQ(ulUsed, 0u);
     }
     uint32_t ulSeed = 12345;
-    std::vector<unsigned char> vecRandom(600);
+    Bytes vecRandom(600);
     for (int iRound = 0; iRound < 500; ++iRound)
     {
         for (unsigned char& rucByte : vecRandom)
@@ -1081,9 +975,8 @@ TEST(SatObservationBinary, EveryTruncationFailsAndRandomInputSurvives)
 
 TEST(SatObservationText, EmptyRecordEndsWithTheCount)
 {
-    std::ostringstream oss;
-    oss << SZelSatObservation();
-    EXPECT_EQ(oss.str(), "SatId, N00, IOD, 4294967295, SatFlgs, 0, ChnNum, 0, NumFrqs, 0");
+    ZelTest::ExpectTextExact(SZelSatObservation(),
+                             "SatId, N00, IOD, 4294967295, SatFlgs, 0, ChnNum, 0, NumFrqs, 0");
 }
 
 TEST(SatObservationText, ExactString)
@@ -1109,19 +1002,25 @@ TEST(SatObservationText, ExactString)
     rstObs.nTimeOffsetRTCM9 = -5;
     rstObs.fVelocity = 0.75f;
     rstObs.fAcceleration = -0.125f;
+    const std::string strSignal =
+        "Flgs, 4111, Frq, 4, TrkMode, W, Phs, 1.5, Cod, -2.25, DoppM, 3, DoppC, 0.5, "
+        "ContMeas, 1000, CNo, 45, PhsRms, 12, CodRms, 300, TimOffs, -5, Vel, 0.75, "
+        "Acc, -0.125";
+    ZelTest::ExpectTextExact(rstObs, strSignal);
+    ZelTest::ExpectTextExact(stSat,
+                             "SatId, G05, IOD, 74565, SatFlgs, 0x1f, ChnNum, 12, NumFrqs, 1, " + strSignal);
+
+    // Decimal again after the flags; the base prefix setting stays on.
     std::ostringstream oss;
     oss << stSat << ", " << 255;
-    EXPECT_EQ(oss.str(), "SatId, G05, IOD, 74565, SatFlgs, 0x1f, ChnNum, 12, NumFrqs, 1, Flgs, 4111, Frq, 4, "
-                         "TrkMode, W, Phs, 1.5, Cod, -2.25, DoppM, 3, DoppC, 0.5, ContMeas, 1000, CNo, 45, "
-                         "PhsRms, 12, CodRms, 300, TimOffs, -5, Vel, 0.75, Acc, -0.125, 255");
-    // Decimal again after the flags; the base prefix setting stays on.
+    EXPECT_EQ(oss.str().substr(oss.str().size() - 5), ", 255");
     EXPECT_TRUE((oss.flags() & std::ios::showbase) != 0);
     EXPECT_EQ(oss.flags() & std::ios::basefield, std::ios::dec);
 }
 
 TEST(SatObservationText, SixSignalsRoundTrip)
 {
-    SZelSatObservation stSat = MakeSat(ZELSATSYSTEM_BEIDOU, 38, 6);
+    SZelSatObservation stSat = SatObs(ZELSATSYSTEM_BEIDOU, 38, 6);
     stSat.astFreqObs[3].eTrackMode = ZELTRACKMODE_UNKNOWN;
     stSat.ucSatFlags = 0;
     const std::string strText = ToText(stSat);
@@ -1136,7 +1035,7 @@ TEST(SatObservationText, SixSignalsRoundTrip)
 
 TEST(SatObservationText, TagWordsAreNotCompared)
 {
-    const SZelSatObservation stSat = MakeSat(ZELSATSYSTEM_GLONASS, 7, 2);
+    const SZelSatObservation stSat = SatObs(ZELSATSYSTEM_GLONASS, 7, 2);
     const std::set<std::string> setTags = {"SatId,",  "IOD,",     "SatFlgs,",  "ChnNum,", "NumFrqs,",
                                            "Flgs,",   "Frq,",     "TrkMode,",  "Phs,",    "Cod,",
                                            "DoppM,",  "DoppC,",   "ContMeas,", "CNo,",    "PhsRms,",
@@ -1164,7 +1063,7 @@ TEST(SatObservationText, TagWordsAreNotCompared)
 
 TEST(SatObservationText, CountAboveSixWritesAndReadsSix)
 {
-    SZelSatObservation stSat = MakeSat(ZELSATSYSTEM_GPS, 1, 6);
+    SZelSatObservation stSat = SatObs(ZELSATSYSTEM_GPS, 1, 6);
     stSat.uiNumFreq = 9;
     ZelTest::CRecordingHook stHook;
     const std::string strText = ToText(stSat);
@@ -1209,7 +1108,7 @@ TEST(SatObservationText, FlagsReadInHexadecimalAndRestInDecimal)
 
 TEST(SatObservationText, CutTextFailsAndKeepsLaterFields)
 {
-    const SZelSatObservation stSat = MakeSat(ZELSATSYSTEM_GPS, 12, 2);
+    const SZelSatObservation stSat = SatObs(ZELSATSYSTEM_GPS, 12, 2);
     const std::string strText = ToText(stSat);
     const size_t ulCut = strText.find(", DoppM, ");
     ASSERT_NE(ulCut, std::string::npos);

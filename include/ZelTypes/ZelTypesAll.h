@@ -3,6 +3,7 @@
 
 // Every public header of the library.
 #include <ZelTypes/Core/Common/ZelAssert.h>
+#include <ZelTypes/Core/Common/ZelCompare.h>
 #include <ZelTypes/Core/Common/ZelConvGeographicCartesian.h>
 #include <ZelTypes/Core/Common/ZelCoordinateSet.h>
 #include <ZelTypes/Core/Common/ZelCoordinateTriplet.h>

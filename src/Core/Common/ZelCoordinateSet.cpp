@@ -4,7 +4,6 @@
 #include <ZelTypes/Core/Common/ZelRecordIO.h>
 
 #include <cmath>
-#include <iomanip>
 
 namespace ZELN
 {
@@ -50,11 +49,6 @@ double Elevation(double dU, double dRange)
 
 // ------------------------------------------------------------------ SZelCoordinateSet
 
-SZelCoordinateSet::SZelCoordinateSet()
-    : ucAvl(0), stCart(), stGeo(), adTrafo{0.0, 0.0, 0.0, 0.0, 0.0, 0.0, 0.0, 0.0}
-{
-}
-
 SZelCoordinateSet::~SZelCoordinateSet() = default;
 
 void SZelCoordinateSet::Set(const SZelCoordinateTriplet& rCoord, bool bNoConversion)
@@ -86,53 +80,26 @@ void SZelCoordinateSet::Set(const SZelCoordinateTriplet& rCoord, bool bNoConvers
     }
 }
 
+// With bAll the set is the default one. The assignment is the base's, so a
+// derived set keeps its own members.
 void SZelCoordinateSet::Clear(bool bAll)
 {
-    ucAvl = 0;
     if (bAll)
     {
-        stCart.Reset();
-        stGeo.Reset();
-        for (double& rdValue : adTrafo)
-        {
-            rdValue = 0.0;
-        }
+        *this = SZelCoordinateSet();
+        return;
     }
+    ucAvl = 0;
 }
 
-// ucAvl at 0, the cartesian triplet at 1, the geographic one at 29, the
-// rotation at 57; 121 bytes, nothing padded.
 bool SZelCoordinateSet::saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const
 {
-    ZelIo::CBinWriter stOut(pBuffer, uiBufferLength, pulOffset);
-    if (!stOut.Begin(getSize()))
-    {
-        return false;
-    }
-    stOut.Raw(ucAvl);
-    // A failed triplet returns false without a further report.
-    if (!stOut.Record(stCart, false) || !stOut.Record(stGeo, false))
-    {
-        return false;
-    }
-    stOut.Raw(adTrafo);
-    return stOut.End(getSize());
+    return ZelIo::SaveFixed(*this, pBuffer, uiBufferLength, pulOffset);
 }
 
 bool SZelCoordinateSet::loadData(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset)
 {
-    ZelIo::CBinReader stIn(pBuffer, uiBufferLength, pulOffset);
-    if (!stIn.Begin(getSize()))
-    {
-        return false;
-    }
-    stIn.Raw(ucAvl);
-    if (!stIn.Record(stCart) || !stIn.Record(stGeo))
-    {
-        return false;
-    }
-    stIn.Raw(adTrafo);
-    return stIn.End(getSize());
+    return ZelIo::LoadFixed(*this, pBuffer, uiBufferLength, pulOffset);
 }
 
 bool operator==(const SZelCoordinateSet& a, const SZelCoordinateSet& b)
@@ -147,64 +114,26 @@ bool operator==(const SZelCoordinateSet& a, const SZelCoordinateSet& b)
     return a.ucAvl == b.ucAvl && a.stCart == b.stCart && a.stGeo == b.stGeo;
 }
 
-bool operator!=(const SZelCoordinateSet& a, const SZelCoordinateSet& b)
-{
-    return !(a == b);
-}
-
 std::ostream& operator<<(std::ostream& os, const SZelCoordinateSet& rSet)
 {
-    os << "Avl, " << ZelIo::Num(rSet.ucAvl) << ", Cart, " << rSet.stCart << ", Geo, " << rSet.stGeo
-       << ", Trafo" << std::scientific << std::setprecision(17);
-    for (double dValue : rSet.adTrafo)
-    {
-        os << ", " << dValue;
-    }
-    return os;
+    return ZelIo::WriteText(os, rSet);
 }
 
-// The tag "Trafo," carries the comma before the first value, so the values
-// are read as an array.
 std::istream& operator>>(std::istream& is, SZelCoordinateSet& rSet)
 {
-    ZelIo::SkipTag(is);
-    ZelIo::ReadAs<uint32_t>(is, rSet.ucAvl);
-    ZelIo::SkipSeparator(is);
-    is >> rSet.stCart;
-    ZelIo::SkipSeparator(is);
-    is >> rSet.stGeo;
-    ZelIo::SkipSeparator(is);
-    return ZelIo::ReadArray(is, rSet.adTrafo, 8);
+    return ZelIo::ReadText(is, rSet);
 }
 
 // ------------------------------------------------------------------ SZelSatPosVel
 
 bool SZelSatPosVel::saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const
 {
-    ZelIo::CBinWriter stOut(pBuffer, uiBufferLength, pulOffset);
-    if (!stOut.BeginLeaf(getSize()))
-    {
-        return false;
-    }
-    stOut.Raw(adPos);
-    stOut.Raw(adVel);
-    stOut.Raw(dRange);
-    stOut.Raw(dRangeRate);
-    return stOut.End(getSize());
+    return ZelIo::SaveLeaf(*this, pBuffer, uiBufferLength, pulOffset);
 }
 
 bool SZelSatPosVel::loadData(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset)
 {
-    ZelIo::CBinReader stIn(pBuffer, uiBufferLength, pulOffset);
-    if (!stIn.BeginLeaf(getSize()))
-    {
-        return false;
-    }
-    stIn.Raw(adPos);
-    stIn.Raw(adVel);
-    stIn.Raw(dRange);
-    stIn.Raw(dRangeRate);
-    return stIn.End(getSize());
+    return ZelIo::LoadLeaf(*this, pBuffer, uiBufferLength, pulOffset);
 }
 
 bool operator==(const SZelSatPosVel& a, const SZelSatPosVel& b)
@@ -219,30 +148,14 @@ bool operator==(const SZelSatPosVel& a, const SZelSatPosVel& b)
     return a.dRange == b.dRange && a.dRangeRate == b.dRangeRate;
 }
 
-bool operator!=(const SZelSatPosVel& a, const SZelSatPosVel& b)
-{
-    return !(a == b);
-}
-
 std::ostream& operator<<(std::ostream& os, const SZelSatPosVel& rSatPos)
 {
-    os << "Pos, " << std::setprecision(12);
-    ZelIo::WriteArray(os, rSatPos.adPos, 3) << ", Vel, ";
-    ZelIo::WriteArray(os, rSatPos.adVel, 3)
-        << ", Rng, " << rSatPos.dRange << ", RngRate, " << rSatPos.dRangeRate;
-    return os;
+    return ZelIo::WriteText(os, rSatPos);
 }
 
 std::istream& operator>>(std::istream& is, SZelSatPosVel& rSatPos)
 {
-    ZelIo::SkipTag(is);
-    ZelIo::ReadArray(is, rSatPos.adPos, 3);
-    ZelIo::SkipSeparator(is);
-    ZelIo::ReadArray(is, rSatPos.adVel, 3);
-    ZelIo::SkipSeparator(is);
-    is >> rSatPos.dRange;
-    ZelIo::SkipSeparator(is);
-    return is >> rSatPos.dRangeRate;
+    return ZelIo::ReadText(is, rSatPos);
 }
 
 // ------------------------------------------------------------------ azimuth and elevation

@@ -3,7 +3,6 @@
 #include <ZelTypes/Core/Common/ZelRecordIO.h>
 
 #include <cmath>
-#include <iomanip>
 
 namespace ZELN
 {
@@ -24,8 +23,7 @@ bool IsCartesian(const SZelCoordinateTriplet& rTriplet)
 
 const char* ToCoordinateSystemWord(EZelCoordinateSystem eSystem)
 {
-    return ZelIo::EnumWord(static_cast<int>(eSystem), c_aszCoordinateSystemWords, c_ulNbCoordinateSystemWords,
-                           "Invalid");
+    return ZelIo::EnumWord(eSystem, c_aszCoordinateSystemWords, c_ulNbCoordinateSystemWords, "Invalid");
 }
 
 EZelCoordinateSystem ReadCoordinateSystemWord(std::istream& is)
@@ -37,9 +35,9 @@ EZelCoordinateSystem ReadCoordinateSystemWord(std::istream& is)
 // ------------------------------------------------------------------ SZelCoordinateTriplet
 
 // The values of a triplet of unknown type are not copied; they keep their
-// defaults here, where the original storage would be uninitialised.
+// defaults.
 SZelCoordinateTriplet::SZelCoordinateTriplet(const SZelCoordinateTriplet& rOther)
-    : ecoordinatesystem(rOther.ecoordinatesystem), dCoord1(0.0), dCoord2(0.0), dCoord3(0.0)
+    : ecoordinatesystem(rOther.ecoordinatesystem)
 {
     switch (rOther.ecoordinatesystem)
     {
@@ -54,18 +52,6 @@ SZelCoordinateTriplet::SZelCoordinateTriplet(const SZelCoordinateTriplet& rOther
         ZEL_ASSERT(false);
         break;
     }
-}
-
-SZelCoordinateTriplet& SZelCoordinateTriplet::operator=(const SZelCoordinateTriplet& rOther)
-{
-    if (this != &rOther)
-    {
-        ecoordinatesystem = rOther.ecoordinatesystem;
-        dCoord1 = rOther.dCoord1;
-        dCoord2 = rOther.dCoord2;
-        dCoord3 = rOther.dCoord3;
-    }
-    return *this;
 }
 
 SZelCoordinateTriplet& SZelCoordinateTriplet::operator+=(const SZelCoordinateTriplet& rOther)
@@ -138,49 +124,22 @@ bool SZelCoordinateTriplet::Normalize()
     return true;
 }
 
-void SZelCoordinateTriplet::Reset()
-{
-    ecoordinatesystem = ZELCOORDINATESYSTEM_CARTESIAN;
-    dCoord1 = 0.0;
-    dCoord2 = 0.0;
-    dCoord3 = 0.0;
-}
-
-// Type at 0 (32 bits), the coordinates at 4, 12 and 20, unaligned.
-namespace
-{
-// The fields of the image, in order, for both directions.
-const auto VisitTripletFields = [](auto& io, auto& r)
-{
-    io.template RawAs<int32_t>(r.ecoordinatesystem);
-    io.Raw(r.dCoord1);
-    io.Raw(r.dCoord2);
-    io.Raw(r.dCoord3);
-    return true;
-};
-} // namespace
-
 bool SZelCoordinateTriplet::saveData(unsigned char* pBuffer, uint64_t uiBufferLength,
                                      uint64_t* pulOffset) const
 {
-    return ZelIo::SaveLeaf(*this, pBuffer, uiBufferLength, pulOffset, VisitTripletFields);
+    return ZelIo::SaveLeaf(*this, pBuffer, uiBufferLength, pulOffset);
 }
 
 bool SZelCoordinateTriplet::loadData(const unsigned char* pBuffer, uint64_t uiBufferLength,
                                      uint64_t* pulOffset)
 {
-    return ZelIo::LoadLeaf(*this, pBuffer, uiBufferLength, pulOffset, VisitTripletFields);
+    return ZelIo::LoadLeaf(*this, pBuffer, uiBufferLength, pulOffset);
 }
 
 bool operator==(const SZelCoordinateTriplet& a, const SZelCoordinateTriplet& b)
 {
     return a.ecoordinatesystem == b.ecoordinatesystem && a.dCoord1 == b.dCoord1 && a.dCoord2 == b.dCoord2 &&
            a.dCoord3 == b.dCoord3;
-}
-
-bool operator!=(const SZelCoordinateTriplet& a, const SZelCoordinateTriplet& b)
-{
-    return !(a == b);
 }
 
 SZelCoordinateTriplet operator+(const SZelCoordinateTriplet& a, const SZelCoordinateTriplet& b)
@@ -255,27 +214,14 @@ void Cross(const SZelCoordinateTriplet& a, const SZelCoordinateTriplet& b, SZelC
     rResult = stResult;
 }
 
-// The precision stays set on the stream.
 std::ostream& operator<<(std::ostream& os, const SZelCoordinateTriplet& rTriplet)
 {
-    return os << "CooTyp, " << ToCoordinateSystemWord(rTriplet.ecoordinatesystem) << ", Coo, "
-              << std::setprecision(12) << rTriplet.dCoord1 << ", " << rTriplet.dCoord2 << ", "
-              << rTriplet.dCoord3;
+    return ZelIo::WriteText(os, rTriplet);
 }
 
-// The word swallows its comma; the char read then takes the first letter of
-// the next tag and the token read the rest of it.
 std::istream& operator>>(std::istream& is, SZelCoordinateTriplet& rTriplet)
 {
-    ZelIo::SkipTag(is);
-    rTriplet.ecoordinatesystem = ReadCoordinateSystemWord(is);
-    ZelIo::SkipSeparator(is);
-    is >> rTriplet.dCoord1;
-    ZelIo::SkipComma(is);
-    is >> rTriplet.dCoord2;
-    ZelIo::SkipComma(is);
-    is >> rTriplet.dCoord3;
-    return is;
+    return ZelIo::ReadText(is, rTriplet);
 }
 
 } // namespace ZELN

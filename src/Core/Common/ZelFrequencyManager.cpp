@@ -1,8 +1,8 @@
 #include <ZelTypes/Core/Common/ZelFrequencyManager.h>
 
 #include <ZelTypes/Core/Common/ZelAssert.h>
+#include <ZelTypes/Core/Common/ZelCompare.h>
 #include <ZelTypes/Core/Common/ZelObsInfo.h>
-#include <ZelTypes/Ext/Gnss/ZelExtEphCompare.h>
 
 #include <boost/make_shared.hpp>
 
@@ -387,7 +387,12 @@ double CZelFrequencyMgr::GetFrequency(const SZelSatID& rSatID, int iIdx) const
     return FrequencyIn(pTable.get(), rSatID, iIdx);
 }
 
-double CZelFrequencyMgr::GetFrequencyByBit(const SZelSatID& rSatID, uint32_t ebfFrq) const
+double CZelFrequencyMgr::GetFrequency(const SZelSatID& rSatID, EZelFrequencyGroup eFreqIdx) const
+{
+    return GetFrequency(rSatID, static_cast<int>(eFreqIdx));
+}
+
+double CZelFrequencyMgr::GetFrequency(const SZelSatID& rSatID, uint32_t ebfFrq) const
 {
     return GetFrequency(rSatID, static_cast<int>(FromFrqGroupBit(ebfFrq)));
 }
@@ -438,7 +443,14 @@ double CZelFrequencyMgr::GetWavelength(const SZelSatID& rSatID, EZelFrequencyGro
     }
 }
 
-double CZelFrequencyMgr::GetWavelengthByBit(const SZelSatID& rSatID, uint32_t ebfFrq) const
+double CZelFrequencyMgr::GetWavelength(const SZelSatID& rSatID, int iIdx) const
+{
+    // Every 32-bit value is a value of the group enumeration; the range is
+    // checked there.
+    return GetWavelength(rSatID, static_cast<EZelFrequencyGroup>(iIdx));
+}
+
+double CZelFrequencyMgr::GetWavelength(const SZelSatID& rSatID, uint32_t ebfFrq) const
 {
     return GetWavelength(rSatID, FromFrqGroupBit(ebfFrq));
 }
@@ -455,10 +467,15 @@ bool CZelFrequencyMgr::GetWavelengthBool(const SZelSatID& rSatID, EZelFrequencyG
     return rdWavelength != 0.0;
 }
 
-bool CZelFrequencyMgr::GetWavelengthBoolByBit(const SZelSatID& rSatID, uint32_t ebfFrq,
-                                              double& rdWavelength) const
+bool CZelFrequencyMgr::GetWavelengthBool(const SZelSatID& rSatID, int iIdx, double& rdWavelength) const
 {
-    rdWavelength = GetWavelengthByBit(rSatID, ebfFrq);
+    rdWavelength = GetWavelength(rSatID, iIdx);
+    return rdWavelength != 0.0;
+}
+
+bool CZelFrequencyMgr::GetWavelengthBool(const SZelSatID& rSatID, uint32_t ebfFrq, double& rdWavelength) const
+{
+    rdWavelength = GetWavelength(rSatID, ebfFrq);
     return rdWavelength != 0.0;
 }
 

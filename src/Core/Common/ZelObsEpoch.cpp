@@ -2,14 +2,12 @@
 
 #include <ZelTypes/Core/Common/ZelAssert.h>
 #include <ZelTypes/Core/Common/ZelRecordIO.h>
-#include <ZelTypes/Core/Common/ZelTimeBlockIO.h>
 
 #include <algorithm>
 #include <cmath>
 #include <iomanip>
 #include <string>
 #include <utility>
-#include <vector>
 
 namespace ZELN
 {
@@ -27,6 +25,25 @@ void ReportShortHeader(const void* pBuffer, uint64_t uiBufferLength)
     {
         ZEL_ASSERT(false);
     }
+}
+
+// The steps of a batch in either direction, with its count rule: the count
+// is 0 until every record has been handled, and the bytes used then.
+template <class IO, class R> bool BatchCount(IO& io, R& rBatch, uint64_t* pulOffset)
+{
+    if (pulOffset != nullptr)
+    {
+        *pulOffset = 0;
+    }
+    if (!io.BeginLeaf(rBatch.getSize()) || !R::VisitFields(io, rBatch))
+    {
+        return false;
+    }
+    if (pulOffset != nullptr)
+    {
+        *pulOffset = io.Offset();
+    }
+    return io.End(rBatch.getSize());
 }
 
 // Buckets for at least ulPresize entries, or for the present ones.
@@ -56,144 +73,11 @@ template <class TMap> bool MapsEqual(const TMap& rLeft, const TMap& rRight)
     return true;
 }
 
-// Room for a fixed entry, cleared (reserved bytes are zero); null when the
-// entry does not fit. The fields then go straight to their offsets.
-unsigned char* ClaimEntry(ZelIo::CBinWriter& stOut, uint64_t ulSize)
-{
-    unsigned char* pEntry = stOut.Here();
-    const uint64_t ulBefore = stOut.Offset();
-    stOut.Fill(ulSize);
-    return stOut.Offset() == ulBefore + ulSize ? pEntry : nullptr;
-}
-
-// Correction entry, 28 bytes: satellite (8), frequency at 8, track mode Y
-// at 12 with three reserved bytes, type at 16, value at 20 (unaligned).
-void WriteCorrection(ZelIo::CBinWriter& stOut, const SZelCorrectionKey& rstKey, double dValue)
-{
-    unsigned char* pEntry = ClaimEntry(stOut, c_ulCORRECTION_ENTRY_SIZE);
-    if (pEntry == nullptr)
-    {
-        return;
-    }
-    ZelIo::PutAt(pEntry, 0, rstKey.stSatId.eSatSystem);
-    ZelIo::PutAt(pEntry, 4, rstKey.stSatId.uiSatNumber);
-    ZelIo::PutAt(pEntry, 8, rstKey.eFrequency);
-    ZelIo::PutAt(pEntry, 12, static_cast<uint8_t>(rstKey.bTrackModeY ? 1 : 0));
-    ZelIo::PutAt(pEntry, 16, rstKey.eCorrType);
-    ZelIo::PutAt(pEntry, 20, dValue);
-}
-
-// Range rate entry, 16 bytes: satellite (8), value at 8.
-void WriteRangeRate(ZelIo::CBinWriter& stOut, const SZelSatID& rstSatId, double dValue)
-{
-    unsigned char* pEntry = ClaimEntry(stOut, c_ulRANGERATE_ENTRY_SIZE);
-    if (pEntry == nullptr)
-    {
-        return;
-    }
-    ZelIo::PutAt(pEntry, 0, rstSatId.eSatSystem);
-    ZelIo::PutAt(pEntry, 4, rstSatId.uiSatNumber);
-    ZelIo::PutAt(pEntry, 8, dValue);
-}
-
-void DecodeCorrection(const unsigned char (&aucEntry)[c_ulCORRECTION_ENTRY_SIZE], SZelCorrectionKey& rstKey,
-                      double& rdValue)
-{
-    uint64_t ulSatUsed = 0;
-    rstKey.stSatId.loadData(aucEntry, sizeof(aucEntry), &ulSatUsed);
-    ZelIo::GetAt(aucEntry, 8, rstKey.eFrequency);
-    // Any byte other than 0 is true: a bool is never loaded from raw bits.
-    uint8_t ucModeY = 0;
-    ZelIo::GetAt(aucEntry, 12, ucModeY);
-    rstKey.bTrackModeY = ucModeY != 0;
-    ZelIo::GetAt(aucEntry, 16, rstKey.eCorrType);
-    ZelIo::GetAt(aucEntry, 20, rdValue);
-}
-
-// Entries in the order of their keys, for text that does not depend on the
-// bucket layout.
-template <class TMap> std::vector<const typename TMap::value_type*> SortedEntries(const TMap& rMap)
-{
-    std::vector<const typename TMap::value_type*> vecEntries;
-    vecEntries.reserve(rMap.size());
-    for (const auto& rEntry : rMap)
-    {
-        vecEntries.push_back(&rEntry);
-    }
-    std::sort(vecEntries.begin(), vecEntries.end(),
-              [](const typename TMap::value_type* pA, const typename TMap::value_type* pB)
-              { return pA->first < pB->first; });
-    return vecEntries;
-}
-
 } // namespace
 
 // ---------------------------------------------------------------------------
 // SZelObservationEpochHeader
 // ---------------------------------------------------------------------------
-
-void SZelObservationEpochHeader::Reset()
-{
-    ucTag0 = 0;
-    ucTag1 = 0;
-    stTime.ResetAt(MJDACC_EXACT);
-    ucNumSats = 0;
-    dClockOffset = 0.0;
-    dTimeStampOffset = 0.0;
-    ulDopplerRate = 1000;
-    ulPositionRate = 1000;
-    lSmoothingLength = 0;
-    stFirstStaticMarkEpoch.ResetAt(MJDACC_NANOSECOND);
-}
-
-// One block as it stands in memory; reserved bytes written as zero.
-bool SZelObservationEpochHeader::saveData(unsigned char* pBuffer, uint64_t uiBufferLength,
-                                          uint64_t* pulOffset) const
-{
-    ZelIo::CBinWriter stOut(pBuffer, uiBufferLength, pulOffset);
-    if (!stOut.BeginLeaf(getSize()))
-    {
-        return false;
-    }
-    stOut.Raw(ucTag0);
-    stOut.Raw(ucTag1);
-    stOut.Fill(6);
-    ZelIo::WriteTimeBlock(stOut, stTime);
-    stOut.Raw(ucNumSats);
-    stOut.Fill(7);
-    stOut.Raw(dClockOffset);
-    stOut.Raw(dTimeStampOffset);
-    stOut.Raw(ulDopplerRate);
-    stOut.Raw(ulPositionRate);
-    stOut.Raw(lSmoothingLength);
-    stOut.Fill(4);
-    ZelIo::WriteTimeBlock(stOut, stFirstStaticMarkEpoch);
-    return stOut.End(getSize());
-}
-
-bool SZelObservationEpochHeader::loadData(const unsigned char* pBuffer, uint64_t uiBufferLength,
-                                          uint64_t* pulOffset)
-{
-    ZelIo::CBinReader stIn(pBuffer, uiBufferLength, pulOffset);
-    if (!stIn.BeginLeaf(getSize()))
-    {
-        return false;
-    }
-    stIn.Raw(ucTag0);
-    stIn.Raw(ucTag1);
-    stIn.Skip(6);
-    ZelIo::ReadTimeBlock(stIn, stTime);
-    stIn.Raw(ucNumSats);
-    stIn.Skip(7);
-    stIn.Raw(dClockOffset);
-    stIn.Raw(dTimeStampOffset);
-    stIn.Raw(ulDopplerRate);
-    stIn.Raw(ulPositionRate);
-    stIn.Raw(lSmoothingLength);
-    stIn.Skip(4);
-    ZelIo::ReadTimeBlock(stIn, stFirstStaticMarkEpoch);
-    return stIn.End(getSize());
-}
 
 bool SZelObservationEpochHeader::operator==(const SZelObservationEpochHeader& rhs) const
 {
@@ -206,38 +90,12 @@ bool SZelObservationEpochHeader::operator==(const SZelObservationEpochHeader& rh
 
 std::ostream& operator<<(std::ostream& os, const SZelObservationEpochHeader& rstHeader)
 {
-    os << ZelIo::Num(rstHeader.ucTag0) << ", " << ZelIo::Num(rstHeader.ucTag1) << ", ";
-    rstHeader.stTime.WriteText(os, MJDTXT_GPS_MILLISECONDS);
-    os << ", NumSats, " << ZelIo::Num(rstHeader.ucNumSats) << ", ClkOffs, " << rstHeader.dClockOffset
-       << ", TimeStampOffs, " << rstHeader.dTimeStampOffset << ", DoppRate, " << rstHeader.ulDopplerRate
-       << ", PosRate, " << rstHeader.ulPositionRate << ", SmooLgth, " << rstHeader.lSmoothingLength
-       << ", 1stStatMrkEpoch, ";
-    return rstHeader.stFirstStaticMarkEpoch.WriteText(os, MJDTXT_GPS_SECONDS);
+    return ZelIo::WriteText(os, rstHeader);
 }
 
-// A week from 5966 on or a time of week out of range gives day 0, 0 ms at
-// nanosecond accuracy, without a report (the time's own reader).
 std::istream& operator>>(std::istream& is, SZelObservationEpochHeader& rstHeader)
 {
-    ZelIo::ReadAs<uint32_t>(is, rstHeader.ucTag0);
-    ZelIo::SkipComma(is);
-    ZelIo::ReadAs<uint32_t>(is, rstHeader.ucTag1);
-    ZelIo::SkipComma(is);
-    rstHeader.stTime.ReadText(is, MJDTXT_GPS_MILLISECONDS);
-    ZelIo::SkipSeparator(is);
-    ZelIo::ReadAs<uint32_t>(is, rstHeader.ucNumSats);
-    ZelIo::SkipSeparator(is);
-    is >> rstHeader.dClockOffset;
-    ZelIo::SkipSeparator(is);
-    is >> rstHeader.dTimeStampOffset;
-    ZelIo::SkipSeparator(is);
-    is >> rstHeader.ulDopplerRate;
-    ZelIo::SkipSeparator(is);
-    is >> rstHeader.ulPositionRate;
-    ZelIo::SkipSeparator(is);
-    is >> rstHeader.lSmoothingLength;
-    ZelIo::SkipSeparator(is);
-    return rstHeader.stFirstStaticMarkEpoch.ReadText(is, MJDTXT_GPS_SECONDS);
+    return ZelIo::ReadText(is, rstHeader);
 }
 
 // ---------------------------------------------------------------------------
@@ -252,32 +110,18 @@ void SZelObservationEpoch::Reset()
     stZelObservationEpochHeader.Reset();
 }
 
-uint64_t SZelObservationEpoch::getSize() const
-{
-    uint64_t ulSize = c_ulOBSEPOCH_FIXED_SIZE;
-    for (const SZelSatObservation& rstSat : vecSatObs)
-    {
-        ulSize += rstSat.getSize();
-    }
-    return ulSize;
-}
-
 bool SZelObservationEpoch::saveData(unsigned char* pBuffer, uint64_t uiBufferLength,
                                     uint64_t* pulOffset) const
 {
-    const SZelObservationEpoch& self = *this;
     ZelIo::CBinWriter stOut(pBuffer, uiBufferLength, pulOffset);
     if (!stOut.BeginLeaf(getSize()))
     {
         ReportShortHeader(pBuffer, uiBufferLength);
         return false;
     }
-    ZEL_ASSERT(self.stZelObservationEpochHeader.stTime.IsValid());
-    if (!stOut.Record(stZelObservationEpochHeader) || !stOut.Sequence(vecSatObs))
-    {
-        return false;
-    }
-    return stOut.End(getSize());
+    ZEL_ASSERT_TEXT(stZelObservationEpochHeader.stTime.IsValid(),
+                    "self.stZelObservationEpochHeader.stTime.IsValid()");
+    return VisitFields(stOut, *this) && stOut.End(getSize());
 }
 
 bool SZelObservationEpoch::loadData(const unsigned char* pBuffer, uint64_t uiBufferLength,
@@ -291,11 +135,7 @@ bool SZelObservationEpoch::loadData(const unsigned char* pBuffer, uint64_t uiBuf
         ReportShortHeader(pBuffer, uiBufferLength);
         return false;
     }
-    if (!stIn.Record(stZelObservationEpochHeader, true) || !stIn.Sequence(vecSatObs, true))
-    {
-        return false;
-    }
-    return stIn.End(getSize());
+    return VisitFields(stIn, *this) && stIn.End(getSize());
 }
 
 bool SZelObservationEpoch::operator==(const SZelObservationEpoch& rhs) const
@@ -317,40 +157,13 @@ bool SZelObservationEpoch::operator==(const SZelObservationEpoch& rhs) const
 
 std::ostream& operator<<(std::ostream& os, const SZelObservationEpoch& rstEpoch)
 {
-    if (rstEpoch.vecSatObs.size() >= 0xFFFFFFFFu)
-    {
-        ZEL_ASSERT(false);
-    }
-    os << rstEpoch.stZelObservationEpochHeader << ", NumSats, " << rstEpoch.vecSatObs.size();
-    for (const SZelSatObservation& rstSat : rstEpoch.vecSatObs)
-    {
-        os << ", " << rstSat;
-    }
-    return os;
+    return ZelIo::WriteText(os, rstEpoch);
 }
 
+// A text cut before the second count leaves the satellites as they were.
 std::istream& operator>>(std::istream& is, SZelObservationEpoch& rstEpoch)
 {
-    is >> rstEpoch.stZelObservationEpochHeader;
-    ZelIo::SkipSeparator(is);
-    uint32_t ulNbSats = 0;
-    // The vector is sized by the true count, the second one of the line; a
-    // text cut before it leaves the satellites as they were.
-    if (!(is >> ulNbSats))
-    {
-        return is;
-    }
-    rstEpoch.vecSatObs.resize(ulNbSats);
-    for (SZelSatObservation& rstSat : rstEpoch.vecSatObs)
-    {
-        if (!is)
-        {
-            break;
-        }
-        ZelIo::SkipComma(is);
-        is >> rstSat;
-    }
-    return is;
+    return ZelIo::ReadText(is, rstEpoch);
 }
 
 // ---------------------------------------------------------------------------
@@ -401,38 +214,29 @@ std::istream& operator>>(std::istream& is, EZelCorrType& reCorrType)
 
 std::ostream& operator<<(std::ostream& os, const SZelCorrectionKey& rstKey)
 {
-    return os << "SatId, " << rstKey.stSatId << ", Frq, " << static_cast<int32_t>(rstKey.eFrequency)
-              << ", TrckModY, " << rstKey.bTrackModeY << ", CorrTyp, " << rstKey.eCorrType;
+    return ZelIo::WriteText(os, rstKey);
 }
 
-// The type's reader takes the comma behind it.
 std::istream& operator>>(std::istream& is, SZelCorrectionKey& rstKey)
 {
-    ZelIo::SkipTag(is);
-    is >> rstKey.stSatId;
-    ZelIo::SkipSeparator(is);
-    ZelIo::ReadAs<int32_t>(is, rstKey.eFrequency);
-    ZelIo::SkipSeparator(is);
-    ZelIo::ReadAs<int32_t>(is, rstKey.bTrackModeY);
-    ZelIo::SkipSeparator(is);
-    return is >> rstKey.eCorrType;
+    return ZelIo::ReadText(is, rstKey);
 }
 
 // ---------------------------------------------------------------------------
 // SZelRtmeOutEpochData
 // ---------------------------------------------------------------------------
 
-SZelRtmeOutEpochData::SZelRtmeOutEpochData() : stObs(), alStationsUsed{0, 0, 0, 0}, dClock(0.0)
+SZelRtmeOutEpochData::SZelRtmeOutEpochData()
 {
     mapCorrections.max_load_factor(1.0f);
     mapRangeRates.max_load_factor(1.0f);
 }
 
 SZelRtmeOutEpochData::SZelRtmeOutEpochData(const SZelRtmeOutEpochData& rhs)
-    : stObs(rhs.stObs), alStationsUsed{rhs.alStationsUsed[0], rhs.alStationsUsed[1], rhs.alStationsUsed[2],
-                                       rhs.alStationsUsed[3]},
-      dClock(rhs.dClock), mapCorrections(rhs.mapCorrections), mapRangeRates(rhs.mapRangeRates)
+    : stObs(rhs.stObs), dClock(rhs.dClock), mapCorrections(rhs.mapCorrections),
+      mapRangeRates(rhs.mapRangeRates)
 {
+    std::copy(rhs.alStationsUsed, rhs.alStationsUsed + NB_STATION_SYSTEMS, alStationsUsed);
     mapCorrections.max_load_factor(1.0f);
     mapRangeRates.max_load_factor(1.0f);
     PresizeMap(mapCorrections, c_ulCORRECTIONS_PRESIZE);
@@ -519,101 +323,6 @@ bool SZelRtmeOutEpochData::GetRangeRate(const SZelSatID& stSatId, double& rdValu
     return true;
 }
 
-uint64_t SZelRtmeOutEpochData::getSize() const
-{
-    return stObs.getSize() + c_ulCORRECTION_ENTRY_SIZE * mapCorrections.size() +
-           c_ulRANGERATE_ENTRY_SIZE * (mapRangeRates.size() + 2);
-}
-
-bool SZelRtmeOutEpochData::saveData(unsigned char* pBuffer, uint64_t uiBufferLength,
-                                    uint64_t* pulOffset) const
-{
-    ZelIo::CBinWriter stOut(pBuffer, uiBufferLength, pulOffset);
-    if (!stOut.BeginLeaf(getSize()))
-    {
-        return false;
-    }
-    if (!stOut.Record(stObs))
-    {
-        return false;
-    }
-    for (const int32_t lStations : alStationsUsed)
-    {
-        stOut.Raw(lStations);
-    }
-    stOut.Raw(dClock);
-    // Entries in the map's iteration order.
-    stOut.Count(mapCorrections.size());
-    for (const auto& rEntry : mapCorrections)
-    {
-        WriteCorrection(stOut, rEntry.first, rEntry.second);
-    }
-    stOut.Count(mapRangeRates.size());
-    for (const auto& rEntry : mapRangeRates)
-    {
-        WriteRangeRate(stOut, rEntry.first, rEntry.second);
-    }
-    return stOut.End(getSize());
-}
-
-bool SZelRtmeOutEpochData::loadData(const unsigned char* pBuffer, uint64_t uiBufferLength,
-                                    uint64_t* pulOffset)
-{
-    ZelIo::CBinReader stIn(pBuffer, uiBufferLength, pulOffset);
-    if (!stIn.BeginLeaf(getSize()))
-    {
-        return false;
-    }
-    if (!stIn.Record(stObs))
-    {
-        return false;
-    }
-    for (int32_t& rlStations : alStationsUsed)
-    {
-        stIn.Raw(rlStations);
-    }
-    stIn.Raw(dClock);
-    // Entries are read one by one, each with its own bounds test: a count
-    // beyond the buffer fails at the entry where the buffer ends.
-    uint32_t ulNbCorrections = 0;
-    if (!stIn.Count(ulNbCorrections))
-    {
-        return false;
-    }
-    for (uint32_t ulIdx = 0; ulIdx < ulNbCorrections; ++ulIdx)
-    {
-        unsigned char aucEntry[c_ulCORRECTION_ENTRY_SIZE];
-        if (!stIn.RawChecked(aucEntry))
-        {
-            return false;
-        }
-        SZelCorrectionKey stKey;
-        double dValue = 0.0;
-        DecodeCorrection(aucEntry, stKey, dValue);
-        mapCorrections[stKey] = dValue;
-    }
-    uint32_t ulNbRangeRates = 0;
-    if (!stIn.Count(ulNbRangeRates))
-    {
-        return false;
-    }
-    for (uint32_t ulIdx = 0; ulIdx < ulNbRangeRates; ++ulIdx)
-    {
-        unsigned char aucEntry[c_ulRANGERATE_ENTRY_SIZE];
-        if (!stIn.RawChecked(aucEntry))
-        {
-            return false;
-        }
-        SZelSatID stSatId;
-        uint64_t ulSatUsed = 0;
-        stSatId.loadData(aucEntry, sizeof(aucEntry), &ulSatUsed);
-        double dValue = 0.0;
-        ZelIo::GetAt(aucEntry, 8, dValue);
-        mapRangeRates[stSatId] = dValue;
-    }
-    return stIn.End(getSize());
-}
-
 bool SZelRtmeOutEpochData::operator==(const SZelRtmeOutEpochData& rhs) const
 {
     if (stObs != rhs.stObs)
@@ -633,65 +342,12 @@ bool SZelRtmeOutEpochData::operator==(const SZelRtmeOutEpochData& rhs) const
 
 std::ostream& operator<<(std::ostream& os, const SZelRtmeOutEpochData& rstData)
 {
-    os << "Obs, " << rstData.stObs << ", StnUsdG, " << rstData.alStationsUsed[0] << ", StnUsdR, "
-       << rstData.alStationsUsed[1] << ", StnUsdC, " << rstData.alStationsUsed[2] << ", StnUsdE, "
-       << rstData.alStationsUsed[3] << ", Clk, " << rstData.dClock << ", Corrs, "
-       << rstData.mapCorrections.size();
-    for (const auto* pEntry : SortedEntries(rstData.mapCorrections))
-    {
-        os << ", " << pEntry->first << ", " << pEntry->second;
-    }
-    os << ", RngRates, " << rstData.mapRangeRates.size();
-    for (const auto* pEntry : SortedEntries(rstData.mapRangeRates))
-    {
-        os << ", " << pEntry->first << ", " << pEntry->second;
-    }
-    return os;
+    return ZelIo::WriteText(os, rstData);
 }
 
 std::istream& operator>>(std::istream& is, SZelRtmeOutEpochData& rstData)
 {
-    ZelIo::SkipTag(is);
-    is >> rstData.stObs;
-    for (int32_t& rlStations : rstData.alStationsUsed)
-    {
-        ZelIo::SkipSeparator(is);
-        is >> rlStations;
-    }
-    ZelIo::SkipSeparator(is);
-    is >> rstData.dClock;
-    ZelIo::SkipSeparator(is);
-    uint32_t ulNbCorrections = 0;
-    is >> ulNbCorrections;
-    // A failed stream ends the loop: nothing more can be read from it.
-    for (uint32_t ulIdx = 0; ulIdx < ulNbCorrections && is; ++ulIdx)
-    {
-        SZelCorrectionKey stKey;
-        double dValue = 0.0;
-        ZelIo::SkipComma(is);
-        is >> stKey >> dValue;
-        if (is)
-        {
-            rstData.mapCorrections[stKey] = dValue;
-        }
-    }
-    ZelIo::SkipSeparator(is);
-    uint32_t ulNbRangeRates = 0;
-    is >> ulNbRangeRates;
-    for (uint32_t ulIdx = 0; ulIdx < ulNbRangeRates && is; ++ulIdx)
-    {
-        SZelSatID stSatId;
-        double dValue = 0.0;
-        ZelIo::SkipComma(is);
-        is >> stSatId;
-        ZelIo::SkipComma(is);
-        is >> dValue;
-        if (is)
-        {
-            rstData.mapRangeRates[stSatId] = dValue;
-        }
-    }
-    return is;
+    return ZelIo::ReadText(is, rstData);
 }
 
 // ---------------------------------------------------------------------------
@@ -700,79 +356,18 @@ std::istream& operator>>(std::istream& is, SZelRtmeOutEpochData& rstData)
 
 SZelOutObservations::~SZelOutObservations() = default;
 
-uint64_t SZelOutObservations::getSize() const
-{
-    uint64_t ulSize = 12;
-    for (const SZelRtmeOutEpochData& rstData : vecEpochs)
-    {
-        ulSize += rstData.getSize();
-    }
-    return ulSize;
-}
-
-// An element that fails ends the call with false and the used bytes left at 0.
 bool SZelOutObservations::saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const
 {
-    if (pulOffset != nullptr)
-    {
-        *pulOffset = 0;
-    }
     uint64_t ulUsed = 0;
     ZelIo::CBinWriter stOut(pBuffer, uiBufferLength, &ulUsed);
-    if (!stOut.BeginLeaf(getSize()))
-    {
-        return false;
-    }
-    stOut.Raw(ulValue0);
-    stOut.Raw(ulValue1);
-    stOut.Count(vecEpochs.size());
-    for (const SZelRtmeOutEpochData& rstData : vecEpochs)
-    {
-        uint64_t ulLocal = 0;
-        if (!rstData.saveData(stOut.Here(), stOut.Remaining(), &ulLocal))
-        {
-            return false;
-        }
-        ulUsed += ulLocal;
-    }
-    if (pulOffset != nullptr)
-    {
-        *pulOffset = ulUsed;
-    }
-    return stOut.End(getSize());
+    return BatchCount(stOut, *this, pulOffset);
 }
 
 bool SZelOutObservations::loadData(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset)
 {
-    if (pulOffset != nullptr)
-    {
-        *pulOffset = 0;
-    }
     uint64_t ulUsed = 0;
     ZelIo::CBinReader stIn(pBuffer, uiBufferLength, &ulUsed);
-    if (!stIn.BeginLeaf(getSize()))
-    {
-        return false;
-    }
-    stIn.Raw(ulValue0);
-    stIn.Raw(ulValue1);
-    uint32_t ulNbEpochs = 0;
-    stIn.Count(ulNbEpochs);
-    vecEpochs.resize(ulNbEpochs);
-    for (SZelRtmeOutEpochData& rstData : vecEpochs)
-    {
-        uint64_t ulLocal = 0;
-        if (!rstData.loadData(stIn.Here(), stIn.Remaining(), &ulLocal))
-        {
-            return false;
-        }
-        ulUsed += ulLocal;
-    }
-    if (pulOffset != nullptr)
-    {
-        *pulOffset = ulUsed;
-    }
-    return stIn.End(getSize());
+    return BatchCount(stIn, *this, pulOffset);
 }
 
 bool SZelOutObservations::operator==(const SZelOutObservations& rhs) const

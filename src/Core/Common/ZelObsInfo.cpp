@@ -10,13 +10,6 @@ namespace ZELN
 namespace
 {
 
-// The table checks name this; a plain char may be negative, which the C
-// function does not accept.
-inline int isalnum(char c)
-{
-    return std::isalnum(static_cast<unsigned char>(c));
-}
-
 // ---------------------------------------------------------------------------
 // Constant tables
 // ---------------------------------------------------------------------------
@@ -282,7 +275,7 @@ struct SCatalogue
 {
     STrackModeInfo astRows[c_ulNB_ROWS];
     SFrqInfo astFrqs[c_ulNB_FRQS];
-    SSysInfo ast_Sys_Info[c_ulNB_SYSTEMS];
+    SSysInfo astSysInfo[c_ulNB_SYSTEMS];
 
     SCatalogue()
     {
@@ -309,11 +302,11 @@ struct SCatalogue
         for (uint64_t ulSys = 0; ulSys < c_ulNB_SYSTEMS; ++ulSys)
         {
             const SSysDef& rSys = c_astSysDefs[ulSys];
-            ast_Sys_Info[ulSys] =
+            astSysInfo[ulSys] =
                 SSysInfo(rSys.eSysID, rSys.uiMaxSysSatNb, rSys.eBaseSysID, rSys.uiMaxBaseSatNb,
                          apSysFrqs[ulSys], rSys.ulNbFrqs, rSys.pDefs, rSys.ulNbDefs);
         }
-        ObsInfoDetail::CheckSysTable(ast_Sys_Info);
+        ObsInfoDetail::CheckSysTable(astSysInfo);
     }
 };
 
@@ -360,7 +353,9 @@ SFrqInfo::SFrqInfo(const char* szSysFrq_, EZelTrackMode eDefTrackMode, STrackMod
     ZEL_ASSERT(ulSzLgth < ulSZFRQ_MAXLGTH);
     for (uint64_t ulIdx = 0; ulIdx < ulSzLgth; ++ulIdx)
     {
-        ZEL_ASSERT(isalnum(szSysFrq[ulIdx]) != 0);
+        // A plain char may be negative, which the C function does not accept.
+        ZEL_ASSERT_TEXT(std::isalnum(static_cast<unsigned char>(szSysFrq[ulIdx])) != 0,
+                        "isalnum(szSysFrq[ulIdx]) != 0");
     }
 
     for (int32_t& rlIdx : astTrackModeIdx)
@@ -477,7 +472,7 @@ SSysInfo::SSysInfo()
 }
 
 SSysInfo::SSysInfo(EZelSatSystem eSysID_, uint8_t uiMaxSysSatNb_, EZelSatSystem eBaseSysID_,
-                   uint8_t uiMaxBaseSatNb_, const SFrqInfo* astFrqs_, uint64_t _ulFrqIdxMax,
+                   uint8_t uiMaxBaseSatNb_, const SFrqInfo* astFrqs_, uint64_t ulNbFrqs,
                    const SDefFrqRow* astDefRows, uint64_t ulNbDefRows)
     : eSysID(eSysID_), uiMaxSysSatNb(uiMaxSysSatNb_), eBaseSysID(eBaseSysID_),
       uiMaxBaseSatNb(uiMaxBaseSatNb_), astFrqs(astFrqs_), ebfFrqGrps(0), aulFrqGrpIdx(), aeDefFrqIdx()
@@ -496,14 +491,14 @@ SSysInfo::SSysInfo(EZelSatSystem eSysID_, uint8_t uiMaxSysSatNb_, EZelSatSystem 
     }
 
     // Null tables are a defect of the caller's tables: nothing to index.
-    if ((astFrqs == nullptr && _ulFrqIdxMax != 0) || (astDefRows == nullptr && ulNbDefRows != 0))
+    if ((astFrqs == nullptr && ulNbFrqs != 0) || (astDefRows == nullptr && ulNbDefRows != 0))
     {
         ZEL_ASSERT(false);
-        _ulFrqIdxMax = astFrqs != nullptr ? _ulFrqIdxMax : 0;
+        ulNbFrqs = astFrqs != nullptr ? ulNbFrqs : 0;
         ulNbDefRows = astDefRows != nullptr ? ulNbDefRows : 0;
     }
 
-    for (uint64_t ulFrqIdx = 0; ulFrqIdx < _ulFrqIdxMax; ++ulFrqIdx)
+    for (uint64_t ulFrqIdx = 0; ulFrqIdx < ulNbFrqs; ++ulFrqIdx)
     {
         const EZelFrequencyGroup eFrqGrp = astFrqs[ulFrqIdx].eZelFrqGrpID;
         // A group outside the index array cannot be indexed.
@@ -515,7 +510,7 @@ SSysInfo::SSysInfo(EZelSatSystem eSysID_, uint8_t uiMaxSysSatNb_, EZelSatSystem 
         ebfFrqGrps |= ToFrqGroupBit(eFrqGrp);
         aulFrqGrpIdx[eFrqGrp] = static_cast<int64_t>(ulFrqIdx);
     }
-    ZEL_ASSERT(GetNbFrqs() == _ulFrqIdxMax);
+    ZEL_ASSERT_TEXT(GetNbFrqs() == ulNbFrqs, "GetNbFrqs() == _ulFrqIdxMax");
 
     for (uint64_t ulDefIdx = 0; ulDefIdx < ulNbDefRows; ++ulDefIdx)
     {
@@ -527,9 +522,8 @@ SSysInfo::SSysInfo(EZelSatSystem eSysID_, uint8_t uiMaxSysSatNb_, EZelSatSystem 
             continue;
         }
         aeDefFrqIdx[eZelFrq] = std::make_pair(astDefRows[ulDefIdx].eFrqGrp, astDefRows[ulDefIdx].eTrackMode);
-        // clang-format off
-        ZEL_ASSERT(aeDefFrqIdx[eZelFrq].first == getFrequencyGroupIndex( eZelFrq ));
-        // clang-format on
+        ZEL_ASSERT_TEXT(aeDefFrqIdx[eZelFrq].first == getFrequencyGroupIndex(eZelFrq),
+                        "aeDefFrqIdx[eZelFrq].first == getFrequencyGroupIndex( eZelFrq )");
     }
 }
 
@@ -623,33 +617,37 @@ const STrackModeInfo* SSysInfo::GetTrackModeInfoByGroup(EZelFrequencyGroup eFrqG
 // Catalogue and free functions
 // ---------------------------------------------------------------------------
 
-void ObsInfoDetail::CheckSysTable(const SSysInfo* ast_Sys_Info)
+void ObsInfoDetail::CheckSysTable(const SSysInfo* astSysInfo)
 {
-    if (ast_Sys_Info == nullptr)
+    if (astSysInfo == nullptr)
     {
         ZEL_ASSERT(false);
         return;
     }
-    ZEL_ASSERT(ast_Sys_Info[ZELSATSYSTEM_QZSS].eBaseSysID == ZELSATSYSTEM_GPS);
+    ZEL_ASSERT_TEXT(astSysInfo[ZELSATSYSTEM_QZSS].eBaseSysID == ZELSATSYSTEM_GPS,
+                    "ast_Sys_Info[ZELSATSYSTEM_QZSS].eBaseSysID == ZELSATSYSTEM_GPS");
 
     unsigned int auiBaseSysIDSums[c_ulNB_SYSTEMS] = {};
     for (int32_t lSys = ZELSATSYSTEM_GPS; lSys <= ZELSATSYSTEM_LOCATA; ++lSys)
     {
         const EZelSatSystem eSys = static_cast<EZelSatSystem>(lSys);
-        ZEL_ASSERT(ast_Sys_Info[eSys].eBaseSysID == ast_Sys_Info[eSys].eSysID || eSys == ZELSATSYSTEM_QZSS);
-        const EZelSatSystem eBase = ast_Sys_Info[eSys].eBaseSysID;
+        ZEL_ASSERT_TEXT(
+            astSysInfo[eSys].eBaseSysID == astSysInfo[eSys].eSysID || eSys == ZELSATSYSTEM_QZSS,
+            "ast_Sys_Info[eSys].eBaseSysID == ast_Sys_Info[eSys].eSysID || eSys == ZELSATSYSTEM_QZSS");
+        const EZelSatSystem eBase = astSysInfo[eSys].eBaseSysID;
         // A base outside the table has no sum to add to.
         if (eBase < ZELSATSYSTEM_NONE || eBase > ZELSATSYSTEM_LOCATA)
         {
             ZEL_ASSERT(false);
             continue;
         }
-        auiBaseSysIDSums[eBase] += ast_Sys_Info[eSys].uiMaxSysSatNb;
+        auiBaseSysIDSums[eBase] += astSysInfo[eSys].uiMaxSysSatNb;
     }
     for (int32_t lSys = ZELSATSYSTEM_GPS; lSys <= ZELSATSYSTEM_LOCATA; ++lSys)
     {
         const EZelSatSystem eSys = static_cast<EZelSatSystem>(lSys);
-        ZEL_ASSERT(ast_Sys_Info[eSys].uiMaxBaseSatNb >= auiBaseSysIDSums[eSys]);
+        ZEL_ASSERT_TEXT(astSysInfo[eSys].uiMaxBaseSatNb >= auiBaseSysIDSums[eSys],
+                        "ast_Sys_Info[eSys].uiMaxBaseSatNb >= auiBaseSysIDSums[eSys]");
     }
 }
 
@@ -661,9 +659,9 @@ const SSysInfo& GetSysInfo(EZelSatSystem eSys)
     // read: it gets the row of no system.
     if (eSys < ZELSATSYSTEM_NONE || eSys > ZELSATSYSTEM_LOCATA)
     {
-        return s_stCatalogue.ast_Sys_Info[ZELSATSYSTEM_NONE];
+        return s_stCatalogue.astSysInfo[ZELSATSYSTEM_NONE];
     }
-    return s_stCatalogue.ast_Sys_Info[eSys];
+    return s_stCatalogue.astSysInfo[eSys];
 }
 
 uint32_t ToFrqGroupBit(EZelFrequencyGroup eFrqGrp)

@@ -355,13 +355,13 @@ std::istream& operator>>(std::istream& is, ETrackComponent& reComponent)
 
 std::ostream& operator<<(std::ostream& os, EZelOrbitSource eSource)
 {
-    return os << ZelIo::EnumWord(eSource, c_aszOrbitSourceWords, 5, "Invalid");
+    ZelIo::CTextWriter(os).Word(eSource, c_aszOrbitSourceWords, "Invalid", ZELORBITSOURCE_INVALID);
+    return os;
 }
 
 std::istream& operator>>(std::istream& is, EZelOrbitSource& reSource)
 {
-    reSource = static_cast<EZelOrbitSource>(
-        ZelIo::ReadEnumWord(is, c_aszOrbitSourceWords, 5, ZELORBITSOURCE_INVALID));
+    ZelIo::CTextReader(is).Word(reSource, c_aszOrbitSourceWords, "Invalid", ZELORBITSOURCE_INVALID);
     return is;
 }
 

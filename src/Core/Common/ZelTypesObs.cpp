@@ -3,9 +3,6 @@
 #include <ZelTypes/Core/Common/ZelAssert.h>
 #include <ZelTypes/Core/Common/ZelRecordIO.h>
 
-#include <cstddef>
-#include <cstring>
-
 namespace ZELN
 {
 
@@ -13,94 +10,21 @@ namespace
 {
 
 // One latch per system for the pairs that the default table lacks; GPS and
-// QZSS share theirs. Plain flags: a lost race costs one more report.
-bool s_bGpsQzssUnknownLatch = false;
-bool s_bGpsQzssPRowLatch = false;
-bool s_bGlonassUnknownLatch = false;
-bool s_bGalileoUnknownLatch = false;
-bool s_bSbasUnknownLatch = false;
-bool s_bBeidouUnknownLatch = false;
-bool s_bNavicUnknownLatch = false;
-bool s_bOtherSystemUnknownLatch = false;
+// QZSS share theirs.
+CZelOnceLatch s_stGpsQzssUnknownLatch;
+CZelOnceLatch s_stGpsQzssPRowLatch;
+CZelOnceLatch s_stGlonassUnknownLatch;
+CZelOnceLatch s_stGalileoUnknownLatch;
+CZelOnceLatch s_stSbasUnknownLatch;
+CZelOnceLatch s_stBeidouUnknownLatch;
+CZelOnceLatch s_stNavicUnknownLatch;
+CZelOnceLatch s_stOtherSystemUnknownLatch;
 
-EZelTrackMode UnknownPairOnce(bool& rbLatch)
+EZelTrackMode UnknownPairOnce(CZelOnceLatch& rstLatch)
 {
-    if (!rbLatch)
+    if (rstLatch.First())
     {
-        rbLatch = true;
-        ZEL_ASSERT((false));
-    }
-    return ZELTRACKMODE_UNKNOWN;
-}
-
-bool IsFrequencySlot(EZelFrequency eFrequency)
-{
-    return eFrequency >= ZELFREQUENCY_L1CA && eFrequency <= ZELFREQUENCY_E6;
-}
-
-// The memory layouts of the head and of a signal record are their images
-// (the offsets are checked here), so both go as one block each. Reserved and
-// filling bytes travel as they stand on reading and go out as zero.
-static_assert(offsetof(SZelSatObservation, stSatId) == 0 && offsetof(SZelSatObservation, ulIOD) == 8 &&
-                  offsetof(SZelSatObservation, ucSatFlags) == 12 &&
-                  offsetof(SZelSatObservation, ucChannel) == 13 &&
-                  offsetof(SZelSatObservation, uiNumFreq) == 14 && offsetof(SZelSatID, uiSatNumber) == 4 &&
-                  sizeof(SZelSatID) == 8,
-              "head layout");
-static_assert(offsetof(SZelFreqObservation, eFrequency) == 4 &&
-                  offsetof(SZelFreqObservation, eTrackMode) == 8 &&
-                  offsetof(SZelFreqObservation, dPhase) == 16 && offsetof(SZelFreqObservation, dCode) == 24 &&
-                  offsetof(SZelFreqObservation, dDopplerM) == 32 &&
-                  offsetof(SZelFreqObservation, dDopplerC) == 40 &&
-                  offsetof(SZelFreqObservation, unContMeasCount10Msec) == 48 &&
-                  offsetof(SZelFreqObservation, unCNo) == 50 &&
-                  offsetof(SZelFreqObservation, unPhaseRms100thMm) == 52 &&
-                  offsetof(SZelFreqObservation, unRangeRmsMm) == 54 &&
-                  offsetof(SZelFreqObservation, nTimeOffsetRTCM9) == 56 &&
-                  offsetof(SZelFreqObservation, fVelocity) == 60 &&
-                  offsetof(SZelFreqObservation, fAcceleration) == 64 &&
-                  sizeof(SZelFreqObservation) == c_ulFREQOBS_SIZE,
-              "signal record layout");
-
-// A block of constant size; null when it did not fit.
-template <uint64_t ulSize> unsigned char* WriteBlock(ZelIo::CBinWriter& stOut, const void* pBlock)
-{
-    unsigned char* pOut = stOut.Here();
-    const uint64_t ulBefore = stOut.Offset();
-    stOut.Bytes(pBlock, ulSize);
-    return stOut.Offset() == ulBefore + ulSize ? pOut : nullptr;
-}
-
-void WriteHead(ZelIo::CBinWriter& stOut, const SZelSatObservation& rstSat)
-{
-    unsigned char* pOut = WriteBlock<c_ulSATOBS_HEAD_SIZE>(stOut, &rstSat);
-    if (pOut != nullptr)
-    {
-        std::memset(pOut + 5, 0, 3);
-    }
-}
-
-void WriteFreqObs(ZelIo::CBinWriter& stOut, const SZelFreqObservation& rstObs)
-{
-    unsigned char* pOut = WriteBlock<c_ulFREQOBS_SIZE>(stOut, &rstObs);
-    if (pOut != nullptr)
-    {
-        std::memset(pOut + 12, 0, 4);
-        std::memset(pOut + 58, 0, 2);
-        std::memset(pOut + 68, 0, 4);
-    }
-}
-
-// A letter of the text form; an unknown letter gives 0 without a report,
-// since a text reader never reports.
-EZelTrackMode TrackModeOfLetter(char cLetter)
-{
-    for (int32_t lMode = ZELTRACKMODE_UNKNOWN; lMode <= ZELTRACKMODE_Z; ++lMode)
-    {
-        if (ToTrackModeLetter(static_cast<EZelTrackMode>(lMode)) == cLetter)
-        {
-            return static_cast<EZelTrackMode>(lMode);
-        }
+        ZEL_ASSERT_TEXT(false, "(false)");
     }
     return ZELTRACKMODE_UNKNOWN;
 }
@@ -142,10 +66,9 @@ EZelTrackMode SZelFreqObservation::GetDefaultTrackMode(EZelSatSystem eSys, EZelF
         case ZELFREQUENCY_L1P:
         case ZELFREQUENCY_L2P:
             // The P row is a GPS row; QZSS reaching it first is worth one report.
-            if (!s_bGpsQzssPRowLatch)
+            if (s_stGpsQzssPRowLatch.First())
             {
-                s_bGpsQzssPRowLatch = true;
-                ZEL_ASSERT((eSys != ZELSATSYSTEM_QZSS));
+                ZEL_ASSERT_TEXT(eSys != ZELSATSYSTEM_QZSS, "(eSys != ZELSATSYSTEM_QZSS)");
             }
             return (ulObsFlags & c_ulOBSFLAG_TRACKMODEW) != 0 ? ZELTRACKMODE_W : ZELTRACKMODE_P;
         case ZELFREQUENCY_L2C:
@@ -155,7 +78,7 @@ EZelTrackMode SZelFreqObservation::GetDefaultTrackMode(EZelSatSystem eSys, EZelF
         case ZELFREQUENCY_L1C:
             return ZELTRACKMODE_L;
         default:
-            return UnknownPairOnce(s_bGpsQzssUnknownLatch);
+            return UnknownPairOnce(s_stGpsQzssUnknownLatch);
         }
     case ZELSATSYSTEM_GLONASS:
         switch (eFrequency)
@@ -169,7 +92,7 @@ EZelTrackMode SZelFreqObservation::GetDefaultTrackMode(EZelSatSystem eSys, EZelF
         case ZELFREQUENCY_L5:
             return ZELTRACKMODE_Q;
         default:
-            return UnknownPairOnce(s_bGlonassUnknownLatch);
+            return UnknownPairOnce(s_stGlonassUnknownLatch);
         }
     case ZELSATSYSTEM_GALILEO:
         switch (eFrequency)
@@ -182,7 +105,7 @@ EZelTrackMode SZelFreqObservation::GetDefaultTrackMode(EZelSatSystem eSys, EZelF
         case ZELFREQUENCY_E5AB:
             return ZELTRACKMODE_Q;
         default:
-            return UnknownPairOnce(s_bGalileoUnknownLatch);
+            return UnknownPairOnce(s_stGalileoUnknownLatch);
         }
     case ZELSATSYSTEM_BEIDOU:
         switch (eFrequency)
@@ -197,7 +120,7 @@ EZelTrackMode SZelFreqObservation::GetDefaultTrackMode(EZelSatSystem eSys, EZelF
         case ZELFREQUENCY_E5AB:
             return ZELTRACKMODE_P;
         default:
-            return UnknownPairOnce(s_bBeidouUnknownLatch);
+            return UnknownPairOnce(s_stBeidouUnknownLatch);
         }
     case ZELSATSYSTEM_SBAS:
         switch (eFrequency)
@@ -207,19 +130,31 @@ EZelTrackMode SZelFreqObservation::GetDefaultTrackMode(EZelSatSystem eSys, EZelF
         case ZELFREQUENCY_L5:
             return ZELTRACKMODE_I;
         default:
-            return UnknownPairOnce(s_bSbasUnknownLatch);
+            return UnknownPairOnce(s_stSbasUnknownLatch);
         }
     case ZELSATSYSTEM_NAVIC:
         if (eFrequency == ZELFREQUENCY_L5)
         {
             return ZELTRACKMODE_A;
         }
-        return UnknownPairOnce(s_bNavicUnknownLatch);
+        return UnknownPairOnce(s_stNavicUnknownLatch);
     case ZELSATSYSTEM_LOCATA:
         return ZELTRACKMODE_I;
     default:
-        return UnknownPairOnce(s_bOtherSystemUnknownLatch);
+        return UnknownPairOnce(s_stOtherSystemUnknownLatch);
     }
+}
+
+EZelTrackMode SZelFreqObservation::TrackModeOfLetter(char cLetter)
+{
+    for (int32_t lMode = ZELTRACKMODE_UNKNOWN; lMode <= ZELTRACKMODE_Z; ++lMode)
+    {
+        if (ToTrackModeLetter(static_cast<EZelTrackMode>(lMode)) == cLetter)
+        {
+            return static_cast<EZelTrackMode>(lMode);
+        }
+    }
+    return ZELTRACKMODE_UNKNOWN;
 }
 
 bool SZelFreqObservation::operator==(const SZelFreqObservation& rhs) const
@@ -248,50 +183,12 @@ bool SZelFreqObservation::operator==(const SZelFreqObservation& rhs) const
 
 std::ostream& operator<<(std::ostream& os, const SZelFreqObservation& rstFreqObs)
 {
-    return os << "Flgs, " << rstFreqObs.ulObsFlags << ", Frq, " << static_cast<int32_t>(rstFreqObs.eFrequency)
-              << ", TrkMode, " << ToTrackModeLetter(rstFreqObs.eTrackMode) << ", Phs, " << rstFreqObs.dPhase
-              << ", Cod, " << rstFreqObs.dCode << ", DoppM, " << rstFreqObs.dDopplerM << ", DoppC, "
-              << rstFreqObs.dDopplerC << ", ContMeas, " << rstFreqObs.unContMeasCount10Msec << ", CNo, "
-              << rstFreqObs.unCNo << ", PhsRms, " << rstFreqObs.unPhaseRms100thMm << ", CodRms, "
-              << rstFreqObs.unRangeRmsMm << ", TimOffs, " << rstFreqObs.nTimeOffsetRTCM9 << ", Vel, "
-              << rstFreqObs.fVelocity << ", Acc, " << rstFreqObs.fAcceleration;
+    return ZelIo::WriteText(os, rstFreqObs);
 }
 
 std::istream& operator>>(std::istream& is, SZelFreqObservation& rstFreqObs)
 {
-    ZelIo::SkipTag(is);
-    is >> rstFreqObs.ulObsFlags;
-    ZelIo::SkipSeparator(is);
-    ZelIo::ReadAs<int32_t>(is, rstFreqObs.eFrequency);
-    ZelIo::SkipSeparator(is);
-    char cLetter = 0;
-    if (is >> cLetter)
-    {
-        rstFreqObs.eTrackMode = TrackModeOfLetter(cLetter);
-    }
-    ZelIo::SkipSeparator(is);
-    is >> rstFreqObs.dPhase;
-    ZelIo::SkipSeparator(is);
-    is >> rstFreqObs.dCode;
-    ZelIo::SkipSeparator(is);
-    is >> rstFreqObs.dDopplerM;
-    ZelIo::SkipSeparator(is);
-    is >> rstFreqObs.dDopplerC;
-    ZelIo::SkipSeparator(is);
-    ZelIo::ReadAs<uint32_t>(is, rstFreqObs.unContMeasCount10Msec);
-    ZelIo::SkipSeparator(is);
-    ZelIo::ReadAs<uint32_t>(is, rstFreqObs.unCNo);
-    ZelIo::SkipSeparator(is);
-    ZelIo::ReadAs<uint32_t>(is, rstFreqObs.unPhaseRms100thMm);
-    ZelIo::SkipSeparator(is);
-    ZelIo::ReadAs<uint32_t>(is, rstFreqObs.unRangeRmsMm);
-    ZelIo::SkipSeparator(is);
-    ZelIo::ReadAs<int32_t>(is, rstFreqObs.nTimeOffsetRTCM9);
-    ZelIo::SkipSeparator(is);
-    is >> rstFreqObs.fVelocity;
-    ZelIo::SkipSeparator(is);
-    is >> rstFreqObs.fAcceleration;
-    return is;
+    return ZelIo::ReadText(is, rstFreqObs);
 }
 
 // ---------------------------------------------------------------------------
@@ -369,34 +266,11 @@ void SZelSatObservation::MarkSignalClasses()
 
 bool SZelSatObservation::saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const
 {
-    const SZelSatObservation& self = *this;
-    ZelIo::CBinWriter stOut(pBuffer, uiBufferLength, pulOffset);
-    if (!stOut.BeginLeaf(getSize()))
-    {
-        return false;
-    }
-    if (!stSatId.isValid())
-    {
-        ZEL_ASSERT(false);
-    }
-    WriteHead(stOut, *this);
-    // A count above the array writes the six records there are; the size
-    // written then differs from getSize() and the result is false.
-    ZEL_ASSERT(self.uiNumFreq <= SZelSatObservation::MAX_FREQUENCIESOBSERVED);
-    for (uint32_t ulIdx = 0; ulIdx < UsedFreqs(); ++ulIdx)
-    {
-        if (!IsFrequencySlot(astFreqObs[ulIdx].eFrequency))
-        {
-            ZEL_ASSERT(false);
-        }
-        WriteFreqObs(stOut, astFreqObs[ulIdx]);
-    }
-    return stOut.End(getSize());
+    return ZelIo::SaveLeaf(*this, pBuffer, uiBufferLength, pulOffset);
 }
 
 bool SZelSatObservation::loadData(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset)
 {
-    SZelSatObservation& self = *this;
     ZelIo::CBinReader stIn(pBuffer, uiBufferLength, pulOffset);
     // Tested against the count the record holds before the load: a record
     // filled earlier needs the room of its old content.
@@ -404,28 +278,14 @@ bool SZelSatObservation::loadData(const unsigned char* pBuffer, uint64_t uiBuffe
     {
         return false;
     }
-    stIn.Bytes(this, c_ulSATOBS_HEAD_SIZE);
-    if (!stSatId.isValid())
-    {
-        ZEL_ASSERT(false);
-    }
-    ZEL_ASSERT(self.uiNumFreq <= SZelSatObservation::MAX_FREQUENCIESOBSERVED);
-    // The true test, on the count read: silent, the head stays stored.
-    if (getSize() > uiBufferLength)
+    // Only the second bounds test fails the visitor: no bytes counted.
+    if (!VisitFields(stIn, *this))
     {
         if (pulOffset != nullptr)
         {
             *pulOffset = 0;
         }
         return false;
-    }
-    for (uint32_t ulIdx = 0; ulIdx < UsedFreqs(); ++ulIdx)
-    {
-        stIn.Bytes(&astFreqObs[ulIdx], c_ulFREQOBS_SIZE);
-        if (!IsFrequencySlot(astFreqObs[ulIdx].eFrequency))
-        {
-            ZEL_ASSERT(false);
-        }
     }
     return stIn.End(getSize());
 }
@@ -450,44 +310,12 @@ bool SZelSatObservation::operator==(const SZelSatObservation& rhs) const
 
 std::ostream& operator<<(std::ostream& os, const SZelSatObservation& rstSatObs)
 {
-    os << "SatId, " << rstSatObs.stSatId << ", IOD, " << rstSatObs.ulIOD << ", SatFlgs, " << std::showbase;
-    // Back to decimal after the flags; the base prefix stays on the stream.
-    ZelIo::WriteHex(os, rstSatObs.ucSatFlags);
-    os << ", ChnNum, " << ZelIo::Num(rstSatObs.ucChannel) << ", NumFrqs, " << ZelIo::Num(rstSatObs.uiNumFreq);
-    ZEL_ASSERT(rstSatObs.uiNumFreq <= SZelSatObservation::MAX_FREQUENCIESOBSERVED);
-    for (uint32_t ulIdx = 0; ulIdx < rstSatObs.UsedFreqs(); ++ulIdx)
-    {
-        os << ", " << rstSatObs.astFreqObs[ulIdx];
-    }
-    return os;
+    return ZelIo::WriteText(os, rstSatObs);
 }
 
 std::istream& operator>>(std::istream& is, SZelSatObservation& rstSatObs)
 {
-    uint32_t ulSatFlags = 0;
-    uint32_t ulChannel = 0;
-    uint32_t ulNumFreq = 0;
-    ZelIo::SkipTag(is);
-    is >> rstSatObs.stSatId;
-    ZelIo::SkipSeparator(is);
-    is >> rstSatObs.ulIOD;
-    ZelIo::SkipSeparator(is);
-    ZelIo::ReadHex<uint32_t>(is, ulSatFlags);
-    ZelIo::SkipSeparator(is);
-    is >> ulChannel;
-    ZelIo::SkipSeparator(is);
-    is >> ulNumFreq;
-    rstSatObs.ucSatFlags = static_cast<uint8_t>(ulSatFlags);
-    rstSatObs.ucChannel = static_cast<uint8_t>(ulChannel);
-    rstSatObs.uiNumFreq = static_cast<uint8_t>(ulNumFreq);
-    // A count above the array reads six records and keeps the value read.
-    ZEL_ASSERT(rstSatObs.uiNumFreq <= SZelSatObservation::MAX_FREQUENCIESOBSERVED);
-    for (uint32_t ulIdx = 0; ulIdx < rstSatObs.UsedFreqs(); ++ulIdx)
-    {
-        ZelIo::SkipComma(is);
-        is >> rstSatObs.astFreqObs[ulIdx];
-    }
-    return is;
+    return ZelIo::ReadText(is, rstSatObs);
 }
 
 } // namespace ZELN

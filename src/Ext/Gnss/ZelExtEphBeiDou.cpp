@@ -1,5 +1,7 @@
 #include <ZelTypes/Ext/Gnss/ZelExtEphBeiDou.h>
 
+#include <ZelTypes/Core/Common/ZelCompare.h>
+
 #include "ZelExtEphIO.h"
 
 #include <cmath>
@@ -19,33 +21,11 @@ bool SameTimeNs(const SMjdTime& a, const SMjdTime& b)
 
 } // namespace
 
-ZELX_SAT_EPHEMERIS_BEIDOU::ZELX_SAT_EPHEMERIS_BEIDOU()
-    : uiSvId(0), bValid(false), ulAux1(0), unGPSWeek(0), ulTowMs(0), fUra(0.0f), ucAux2(0), adClock(),
-      stToc(), afAux3(), ucAux4(0), stToe(), ucHealth(1)
-{
-}
-
 ZELX_SAT_EPHEMERIS_BEIDOU::~ZELX_SAT_EPHEMERIS_BEIDOU() = default;
 
 void ZELX_SAT_EPHEMERIS_BEIDOU::clear()
 {
-    ZELX_SAT_EPHEMERIS_COMMON::clear();
-    uiSvId = 0;
-    bValid = false;
-    ulAux1 = 0;
-    unGPSWeek = 0;
-    ulTowMs = 0;
-    fUra = 0.0f;
-    ucAux2 = 0;
-    adClock[0] = 0.0;
-    adClock[1] = 0.0;
-    stToc = SMjdTime();
-    afAux3[0] = 0.0f;
-    afAux3[1] = 0.0f;
-    afAux3[2] = 0.0f;
-    ucAux4 = 0;
-    stToe = SMjdTime();
-    ucHealth = 1;
+    *this = ZELX_SAT_EPHEMERIS_BEIDOU();
 }
 
 uint8_t ZELX_SAT_EPHEMERIS_BEIDOU::getSvId() const
@@ -121,73 +101,15 @@ void ZELX_SAT_EPHEMERIS_BEIDOU::setAux3(size_t ulIndex, float fValue)
     ZelIo::SetElement(afAux3, ulIndex, fValue);
 }
 
-// Image: version at 0, own fields at 1 to 79, the Keplerian block at 80.
 bool ZELX_SAT_EPHEMERIS_BEIDOU::saveData(unsigned char* pBuffer, uint64_t uiBufferLength) const
 {
-    if (!ZelIo::ExtFits(pBuffer, uiBufferLength, c_ulImageSize))
-    {
-        return false;
-    }
-    ZelIo::PutAt(pBuffer, 0, c_ucImageVersion);
-    ZelIo::PutAt(pBuffer, 1, uiSvId);
-    ZelIo::PutAt(pBuffer, 2, bValid);
-    ZelIo::PutAt(pBuffer, 3, ulAux1);
-    ZelIo::PutAt(pBuffer, 7, unGPSWeek);
-    ZelIo::PutAt(pBuffer, 9, ulTowMs);
-    ZelIo::PutAt(pBuffer, 13, fUra);
-    ZelIo::PutAt(pBuffer, 17, ucAux2);
-    ZelIo::PutArrayAt(pBuffer, 18, adClock);
-    if (!ZelIo::PutTimeAt(pBuffer, uiBufferLength, 34, stToc))
-    {
-        return false;
-    }
-    ZelIo::PutArrayAt(pBuffer, 50, afAux3);
-    ZelIo::PutAt(pBuffer, 62, ucAux4);
-    if (!ZelIo::PutTimeAt(pBuffer, uiBufferLength, 63, stToe))
-    {
-        return false;
-    }
-    ZelIo::PutAt(pBuffer, 79, ucHealth);
-    if (!ZELX_SAT_EPHEMERIS_COMMON::saveData(pBuffer + 80, uiBufferLength - 80))
-    {
-        ZEL_ASSERT(false);
-        return false;
-    }
-    return true;
+    return ZelIo::SaveExt(*this, pBuffer, uiBufferLength);
 }
 
 bool ZELX_SAT_EPHEMERIS_BEIDOU::loadData(const unsigned char* pBuffer, uint64_t uiBufferLength)
 {
-    if (!ZelIo::ExtVersionGate(pBuffer, uiBufferLength, c_ucImageVersion,
-                               "loadData(ZELX_SAT_EPHEMERIS_BEIDOU) received old version.", c_ulImageSize))
-    {
-        return false;
-    }
-    ZelIo::GetAt(pBuffer, 1, uiSvId);
-    ZelIo::GetAt(pBuffer, 2, bValid);
-    ZelIo::GetAt(pBuffer, 3, ulAux1);
-    ZelIo::GetAt(pBuffer, 7, unGPSWeek);
-    ZelIo::GetAt(pBuffer, 9, ulTowMs);
-    ZelIo::GetAt(pBuffer, 13, fUra);
-    ZelIo::GetAt(pBuffer, 17, ucAux2);
-    ZelIo::GetArrayAt(pBuffer, 18, adClock);
-    if (!ZelIo::GetTimeAt(pBuffer, uiBufferLength, 34, stToc))
-    {
-        return false;
-    }
-    ZelIo::GetArrayAt(pBuffer, 50, afAux3);
-    ZelIo::GetAt(pBuffer, 62, ucAux4);
-    if (!ZelIo::GetTimeAt(pBuffer, uiBufferLength, 63, stToe))
-    {
-        return false;
-    }
-    ZelIo::GetAt(pBuffer, 79, ucHealth);
-    if (!ZELX_SAT_EPHEMERIS_COMMON::loadData(pBuffer + 80, uiBufferLength - 80))
-    {
-        ZEL_ASSERT(false);
-        return false;
-    }
-    return true;
+    return ZelIo::LoadExtVersioned(*this, pBuffer, uiBufferLength, c_ucImageVersion,
+                                   "loadData(ZELX_SAT_EPHEMERIS_BEIDOU) received old version.");
 }
 
 bool operator==(const ZELX_SAT_EPHEMERIS_BEIDOU& a, const ZELX_SAT_EPHEMERIS_BEIDOU& b)
@@ -196,7 +118,7 @@ bool operator==(const ZELX_SAT_EPHEMERIS_BEIDOU& a, const ZELX_SAT_EPHEMERIS_BEI
     {
         return false;
     }
-    if (a.uiSvId != b.uiSvId || a.ucHealth != b.ucHealth || !AreCloseF(a.fUra, b.fUra, 1e-6f))
+    if (a.uiSvId != b.uiSvId || a.ucHealth != b.ucHealth || !AreCloseRel(a.fUra, b.fUra))
     {
         return false;
     }
@@ -210,7 +132,7 @@ bool operator==(const ZELX_SAT_EPHEMERIS_BEIDOU& a, const ZELX_SAT_EPHEMERIS_BEI
     }
     for (size_t ulIdx = 0; ulIdx < 3; ++ulIdx)
     {
-        if (!AreCloseF(a.afAux3[ulIdx], b.afAux3[ulIdx], 1e-6f))
+        if (!AreCloseRel(a.afAux3[ulIdx], b.afAux3[ulIdx]))
         {
             return false;
         }
@@ -221,17 +143,9 @@ bool operator==(const ZELX_SAT_EPHEMERIS_BEIDOU& a, const ZELX_SAT_EPHEMERIS_BEI
 bool isNewEphemerisBeiDou(const ZELX_SAT_EPHEMERIS_BEIDOU& rEphCurrent,
                           const ZELX_SAT_EPHEMERIS_BEIDOU& rEphNew)
 {
-    if (!rEphNew.bValid)
+    if (const auto obTaken = ZelEphUpdate::Head(rEphCurrent, rEphNew, rEphCurrent.bValid, rEphNew.bValid))
     {
-        return false;
-    }
-    if (!rEphCurrent.bValid)
-    {
-        return true;
-    }
-    if (rEphCurrent.isHealthy() != rEphNew.isHealthy())
-    {
-        return true;
+        return *obTaken;
     }
     if (rEphCurrent.stToc < rEphNew.stToc)
     {

@@ -1,5 +1,7 @@
 #include <ZelTypes/Ext/Gnss/ZelExtEphGalileo.h>
 
+#include <ZelTypes/Core/Common/ZelCompare.h>
+
 #include "ZelExtEphIO.h"
 
 #include <cmath>
@@ -7,55 +9,16 @@
 namespace ZELN
 {
 
-namespace
-{
-
-double DiffAsDays(const SMjdTime& a, const SMjdTime& b)
-{
-    return SMjdTime::DiffAsDays(a, b);
-}
-
-} // namespace
-
-ZELX_SAT_EPHEMERIS_GALILEO::ZELX_SAT_EPHEMERIS_GALILEO() : ZELX_SAT_EPHEMERIS_GALILEO(0) {}
-
-ZELX_SAT_EPHEMERIS_GALILEO::ZELX_SAT_EPHEMERIS_GALILEO(uint32_t ulNavTypeInit)
-    : ulNavType(ulNavTypeInit), uiSVID(0), uiEphSource(POS_SAT_EPH_GAL_SRC_INVALID), ucAux1(0), unIodNav(0),
-      ucSisaIndex(0), ucHsE1b(1), ucHsE5b(1), ucHsE5a(1), ucDvsE1b(0), ucDvsE5b(0), ucDvsE5a(0), ulToe(0),
-      ulToc(0), dAf0(0.0), dAf1(0.0), dAf2(0.0), dBgdE5a(0.0), dBgdE5b(0.0), stRefTimeApprox(), unPT1Week(0),
-      ulPT1Tow(c_ulPT1_TOW_UNSET)
-{
-}
-
 ZELX_SAT_EPHEMERIS_GALILEO::~ZELX_SAT_EPHEMERIS_GALILEO() = default;
 
 void ZELX_SAT_EPHEMERIS_GALILEO::clear()
 {
-    ZELX_SAT_EPHEMERIS_COMMON::clear();
-    // Health and stream kind go to zero here, where the constructor sets the
-    // signal health to 1.
-    ulNavType = 0;
-    uiSVID = 0;
-    uiEphSource = POS_SAT_EPH_GAL_SRC_INVALID;
-    ucAux1 = 0;
-    unIodNav = 0;
-    ucSisaIndex = 0;
+    *this = ZELX_SAT_EPHEMERIS_GALILEO();
+    // The one reset that differs from the default: the signal health goes to
+    // zero, where the constructor sets it to 1.
     ucHsE1b = 0;
     ucHsE5b = 0;
     ucHsE5a = 0;
-    ucDvsE1b = 0;
-    ucDvsE5b = 0;
-    ucDvsE5a = 0;
-    ulToe = 0;
-    ulToc = 0;
-    dAf0 = 0.0;
-    dAf1 = 0.0;
-    dAf2 = 0.0;
-    dBgdE5a = 0.0;
-    dBgdE5b = 0.0;
-    stRefTimeApprox = SMjdTime();
-    unPT1Week = 0;
-    ulPT1Tow = c_ulPT1_TOW_UNSET;
 }
 
 uint8_t ZELX_SAT_EPHEMERIS_GALILEO::getSvId() const
@@ -114,9 +77,8 @@ SMjdTime ZELX_SAT_EPHEMERIS_GALILEO::getPT1Time() const
     const int16_t n = static_cast<int16_t>(dRollovers);
     SMjdTime stPT1Time;
     stPT1Time.SetGpsTime(static_cast<unsigned short>(unWeek + n * 4096), static_cast<double>(ulPT1Tow));
-    // clang-format off
-    ZEL_ASSERT(std::fabs( DiffAsDays( stRefTimeApprox, stPT1Time ) ) < 1.0);
-    // clang-format on
+    ZEL_ASSERT_TEXT(std::fabs(SMjdTime::DiffAsDays(stRefTimeApprox, stPT1Time)) < 1.0,
+                    "std::fabs( DiffAsDays( stRefTimeApprox, stPT1Time ) ) < 1.0");
     return stPT1Time;
 }
 
@@ -325,85 +287,15 @@ bool ZELX_SAT_EPHEMERIS_GALILEO::setSisa(double dMetres)
     return false;
 }
 
-// Image: version at 0, own fields at 1 to 86, the Keplerian block at 87.
 bool ZELX_SAT_EPHEMERIS_GALILEO::saveData(unsigned char* pBuffer, uint64_t uiBufferLength) const
 {
-    if (!ZelIo::ExtFits(pBuffer, uiBufferLength, c_ulImageSize))
-    {
-        return false;
-    }
-    ZelIo::PutAt(pBuffer, 0, c_ucImageVersion);
-    ZelIo::PutAt(pBuffer, 1, ulNavType);
-    ZelIo::PutAt(pBuffer, 5, uiSVID);
-    ZelIo::PutAt(pBuffer, 6, uiEphSource);
-    ZelIo::PutAt(pBuffer, 7, ucAux1);
-    ZelIo::PutAt(pBuffer, 8, unIodNav);
-    ZelIo::PutAt(pBuffer, 10, ucSisaIndex);
-    ZelIo::PutAt(pBuffer, 11, ucHsE1b);
-    ZelIo::PutAt(pBuffer, 12, ucHsE5b);
-    ZelIo::PutAt(pBuffer, 13, ucHsE5a);
-    ZelIo::PutAt(pBuffer, 14, ucDvsE1b);
-    ZelIo::PutAt(pBuffer, 15, ucDvsE5b);
-    ZelIo::PutAt(pBuffer, 16, ucDvsE5a);
-    ZelIo::PutAt(pBuffer, 17, ulToe);
-    ZelIo::PutAt(pBuffer, 21, ulToc);
-    ZelIo::PutAt(pBuffer, 25, dAf0);
-    ZelIo::PutAt(pBuffer, 33, dAf1);
-    ZelIo::PutAt(pBuffer, 41, dAf2);
-    ZelIo::PutAt(pBuffer, 49, dBgdE5a);
-    ZelIo::PutAt(pBuffer, 57, dBgdE5b);
-    if (!ZelIo::PutTimeAt(pBuffer, uiBufferLength, 65, stRefTimeApprox))
-    {
-        return false;
-    }
-    ZelIo::PutAt(pBuffer, 81, unPT1Week);
-    ZelIo::PutAt(pBuffer, 83, ulPT1Tow);
-    if (!ZELX_SAT_EPHEMERIS_COMMON::saveData(pBuffer + 87, uiBufferLength - 87))
-    {
-        ZEL_ASSERT(false);
-        return false;
-    }
-    return true;
+    return ZelIo::SaveExt(*this, pBuffer, uiBufferLength);
 }
 
 bool ZELX_SAT_EPHEMERIS_GALILEO::loadData(const unsigned char* pBuffer, uint64_t uiBufferLength)
 {
-    if (!ZelIo::ExtVersionGate(pBuffer, uiBufferLength, c_ucImageVersion,
-                               "loadData(ZELX_SAT_EPHEMERIS_GALILEO) received old version.", c_ulImageSize))
-    {
-        return false;
-    }
-    ZelIo::GetAt(pBuffer, 1, ulNavType);
-    ZelIo::GetAt(pBuffer, 5, uiSVID);
-    ZelIo::GetAt(pBuffer, 6, uiEphSource);
-    ZelIo::GetAt(pBuffer, 7, ucAux1);
-    ZelIo::GetAt(pBuffer, 8, unIodNav);
-    ZelIo::GetAt(pBuffer, 10, ucSisaIndex);
-    ZelIo::GetAt(pBuffer, 11, ucHsE1b);
-    ZelIo::GetAt(pBuffer, 12, ucHsE5b);
-    ZelIo::GetAt(pBuffer, 13, ucHsE5a);
-    ZelIo::GetAt(pBuffer, 14, ucDvsE1b);
-    ZelIo::GetAt(pBuffer, 15, ucDvsE5b);
-    ZelIo::GetAt(pBuffer, 16, ucDvsE5a);
-    ZelIo::GetAt(pBuffer, 17, ulToe);
-    ZelIo::GetAt(pBuffer, 21, ulToc);
-    ZelIo::GetAt(pBuffer, 25, dAf0);
-    ZelIo::GetAt(pBuffer, 33, dAf1);
-    ZelIo::GetAt(pBuffer, 41, dAf2);
-    ZelIo::GetAt(pBuffer, 49, dBgdE5a);
-    ZelIo::GetAt(pBuffer, 57, dBgdE5b);
-    if (!ZelIo::GetTimeAt(pBuffer, uiBufferLength, 65, stRefTimeApprox))
-    {
-        return false;
-    }
-    ZelIo::GetAt(pBuffer, 81, unPT1Week);
-    ZelIo::GetAt(pBuffer, 83, ulPT1Tow);
-    if (!ZELX_SAT_EPHEMERIS_COMMON::loadData(pBuffer + 87, uiBufferLength - 87))
-    {
-        ZEL_ASSERT(false);
-        return false;
-    }
-    return true;
+    return ZelIo::LoadExtVersioned(*this, pBuffer, uiBufferLength, c_ucImageVersion,
+                                   "loadData(ZELX_SAT_EPHEMERIS_GALILEO) received old version.");
 }
 
 bool operator==(const ZELX_SAT_EPHEMERIS_GALILEO& a, const ZELX_SAT_EPHEMERIS_GALILEO& b)
@@ -423,9 +315,8 @@ bool operator==(const ZELX_SAT_EPHEMERIS_GALILEO& a, const ZELX_SAT_EPHEMERIS_GA
     {
         return false;
     }
-    if (!AreClose(a.dAf0, b.dAf0, 1e-14) || !AreClose(a.dAf1, b.dAf1, 1e-14) ||
-        !AreClose(a.dAf2, b.dAf2, 1e-14) || !AreClose(a.dBgdE5a, b.dBgdE5a, 1e-14) ||
-        !AreClose(a.dBgdE5b, b.dBgdE5b, 1e-14))
+    if (!AreCloseRel(a.dAf0, b.dAf0) || !AreCloseRel(a.dAf1, b.dAf1) || !AreCloseRel(a.dAf2, b.dAf2) ||
+        !AreCloseRel(a.dBgdE5a, b.dBgdE5a) || !AreCloseRel(a.dBgdE5b, b.dBgdE5b))
     {
         return false;
     }
@@ -435,35 +326,23 @@ bool operator==(const ZELX_SAT_EPHEMERIS_GALILEO& a, const ZELX_SAT_EPHEMERIS_GA
 bool isNewEphemerisGalileo(const ZELX_SAT_EPHEMERIS_GALILEO& rEphCurrent,
                            const ZELX_SAT_EPHEMERIS_GALILEO& rEphNew, bool bContentOnly)
 {
-    if (rEphNew.uiEphSource == POS_SAT_EPH_GAL_SRC_INVALID)
+    if (const auto obTaken =
+            ZelEphUpdate::Head(rEphCurrent, rEphNew, rEphCurrent.uiEphSource != POS_SAT_EPH_GAL_SRC_INVALID,
+                               rEphNew.uiEphSource != POS_SAT_EPH_GAL_SRC_INVALID))
     {
-        return false;
-    }
-    if (rEphCurrent.uiEphSource == POS_SAT_EPH_GAL_SRC_INVALID)
-    {
-        return true;
-    }
-    if (rEphCurrent.isHealthy() != rEphNew.isHealthy())
-    {
-        return true;
+        return *obTaken;
     }
     const SMjdTime stToeCurrent = rEphCurrent.getToe();
     const SMjdTime stToeNew = rEphNew.getToe();
-    if (stToeNew < stToeCurrent)
-    {
-        return false;
-    }
     if (bContentOnly)
     {
-        return rEphNew != rEphCurrent;
+        // A set not older than the held one replaces it whenever it differs.
+        return !(stToeNew < stToeCurrent) && rEphNew != rEphCurrent;
     }
-    if (rEphCurrent.unIodNav != rEphNew.unIodNav)
+    if (const auto obTaken = ZelEphUpdate::TimeAndIssue(stToeCurrent, stToeNew, stToeCurrent,
+                                                        rEphCurrent.unIodNav != rEphNew.unIodNav))
     {
-        return true;
-    }
-    if (stToeCurrent < stToeNew)
-    {
-        return true;
+        return *obTaken;
     }
     const SMjdTime stTocCurrent = rEphCurrent.getToc();
     const SMjdTime stTocNew = rEphNew.getToc();

@@ -1,26 +1,11 @@
 #include <ZelTypes/Ext/Gnss/ZelExtEphGlonass.h>
 
-#include "ZelExtEphIO.h"
+#include <ZelTypes/Core/Common/ZelCompare.h>
 
-#include <atomic>
+#include "ZelExtEphIO.h"
 
 namespace ZELN
 {
-
-namespace
-{
-
-// Once-only report of a content change under an unchanged issue of data of
-// an M-type satellite; atomic so that a race is defined.
-std::atomic<bool> s_bMTypeChangeReported(false);
-
-} // namespace
-
-ZELX_SAT_EPHEMERIS_GLONASS::ZELX_SAT_EPHEMERIS_GLONASS()
-    : uiSvId(0), ucAux1(0), unAux2(0), ulAux3(0), bValid(false), bMType(false), unAux4(0), unGPSWeek(0),
-      ulToeMs(0), ulAux5(0), ulIod(0), adState(), aulAux6(), ucHealth(1)
-{
-}
 
 ZELX_SAT_EPHEMERIS_GLONASS::~ZELX_SAT_EPHEMERIS_GLONASS() = default;
 
@@ -98,50 +83,14 @@ void ZELX_SAT_EPHEMERIS_GLONASS::setAux6(size_t ulIndex, uint32_t ulValue)
     ZelIo::SetElement(aulAux6, ulIndex, ulValue);
 }
 
-// Image without version and without health: a loaded record keeps its own
-// health, so a reader that wants it sets it after loading.
 bool ZELX_SAT_EPHEMERIS_GLONASS::saveData(unsigned char* pBuffer, uint64_t uiBufferLength) const
 {
-    if (!ZelIo::ExtFits(pBuffer, uiBufferLength, c_ulImageSize))
-    {
-        return false;
-    }
-    ZelIo::PutAt(pBuffer, 0, uiSvId);
-    ZelIo::PutAt(pBuffer, 1, ucAux1);
-    ZelIo::PutAt(pBuffer, 2, unAux2);
-    ZelIo::PutAt(pBuffer, 4, ulAux3);
-    ZelIo::PutAt(pBuffer, 8, bValid);
-    ZelIo::PutAt(pBuffer, 9, bMType);
-    ZelIo::PutAt(pBuffer, 10, unAux4);
-    ZelIo::PutAt(pBuffer, 12, unGPSWeek);
-    ZelIo::PutAt(pBuffer, 14, ulToeMs);
-    ZelIo::PutAt(pBuffer, 18, ulAux5);
-    ZelIo::PutAt(pBuffer, 22, ulIod);
-    ZelIo::PutArrayAt(pBuffer, 26, adState);
-    ZelIo::PutArrayAt(pBuffer, 122, aulAux6);
-    return true;
+    return ZelIo::SaveExt(*this, pBuffer, uiBufferLength);
 }
 
 bool ZELX_SAT_EPHEMERIS_GLONASS::loadData(const unsigned char* pBuffer, uint64_t uiBufferLength)
 {
-    if (!ZelIo::ExtFits(pBuffer, uiBufferLength, c_ulImageSize))
-    {
-        return false;
-    }
-    ZelIo::GetAt(pBuffer, 0, uiSvId);
-    ZelIo::GetAt(pBuffer, 1, ucAux1);
-    ZelIo::GetAt(pBuffer, 2, unAux2);
-    ZelIo::GetAt(pBuffer, 4, ulAux3);
-    ZelIo::GetAt(pBuffer, 8, bValid);
-    ZelIo::GetAt(pBuffer, 9, bMType);
-    ZelIo::GetAt(pBuffer, 10, unAux4);
-    ZelIo::GetAt(pBuffer, 12, unGPSWeek);
-    ZelIo::GetAt(pBuffer, 14, ulToeMs);
-    ZelIo::GetAt(pBuffer, 18, ulAux5);
-    ZelIo::GetAt(pBuffer, 22, ulIod);
-    ZelIo::GetArrayAt(pBuffer, 26, adState);
-    ZelIo::GetArrayAt(pBuffer, 122, aulAux6);
-    return true;
+    return ZelIo::LoadExt(*this, pBuffer, uiBufferLength);
 }
 
 bool operator==(const ZELX_SAT_EPHEMERIS_GLONASS& a, const ZELX_SAT_EPHEMERIS_GLONASS& b)
@@ -157,7 +106,7 @@ bool operator==(const ZELX_SAT_EPHEMERIS_GLONASS& a, const ZELX_SAT_EPHEMERIS_GL
     }
     for (size_t ulIdx = 0; ulIdx < 12; ++ulIdx)
     {
-        if (!AreClose(a.adState[ulIdx], b.adState[ulIdx], 1e-14))
+        if (!AreCloseRel(a.adState[ulIdx], b.adState[ulIdx]))
         {
             return false;
         }
@@ -175,31 +124,15 @@ bool operator==(const ZELX_SAT_EPHEMERIS_GLONASS& a, const ZELX_SAT_EPHEMERIS_GL
 bool isNewEphemerisGlonass(const ZELX_SAT_EPHEMERIS_GLONASS& rEphCurrent,
                            const ZELX_SAT_EPHEMERIS_GLONASS& rEphNew)
 {
-    if (!rEphNew.bValid)
+    if (const auto obTaken = ZelEphUpdate::Head(rEphCurrent, rEphNew, rEphCurrent.bValid, rEphNew.bValid))
     {
-        return false;
-    }
-    if (!rEphCurrent.bValid)
-    {
-        return true;
-    }
-    if (rEphCurrent.isHealthy() != rEphNew.isHealthy())
-    {
-        return true;
+        return *obTaken;
     }
     const SMjdTime stToeCurrent = rEphCurrent.getToe();
-    const SMjdTime stToeNew = rEphNew.getToe();
-    if (stToeNew < stToeCurrent)
+    if (const auto obTaken = ZelEphUpdate::TimeAndIssue(stToeCurrent, rEphNew.getToe(), stToeCurrent,
+                                                        rEphCurrent.ulIod != rEphNew.ulIod))
     {
-        return false;
-    }
-    if (rEphCurrent.ulIod != rEphNew.ulIod)
-    {
-        return true;
-    }
-    if (stToeCurrent < stToeNew)
-    {
-        return true;
+        return *obTaken;
     }
     if (rEphNew == rEphCurrent)
     {
@@ -211,11 +144,7 @@ bool isNewEphemerisGlonass(const ZELX_SAT_EPHEMERIS_GLONASS& rEphCurrent,
     }
     // An M-type satellite is not expected to change content under an
     // unchanged issue of data; the new set is taken all the same.
-    if (!s_bMTypeChangeReported.load(std::memory_order_relaxed))
-    {
-        s_bMTypeChangeReported.store(true, std::memory_order_relaxed);
-        ZEL_ASSERT((!"Ephemeris parameter change detected for GLO M-Type satellite"));
-    }
+    ZEL_ASSERT_ONCE((!"Ephemeris parameter change detected for GLO M-Type satellite"));
     return true;
 }
 

@@ -1,8 +1,8 @@
 #include <ZelTypes/Ext/Gnss/ZelExtEphGps.h>
 
-#include "ZelExtEphIO.h"
+#include <ZelTypes/Core/Common/ZelCompare.h>
 
-#include <atomic>
+#include "ZelExtEphIO.h"
 
 namespace ZELN
 {
@@ -16,11 +16,6 @@ constexpr float c_afURA_METRES[16] = {2.0f,  2.8f,   4.0f,   5.7f,   8.0f,    11
 constexpr float c_afURA_LIMITS[15] = {2.4f,  3.4f,   4.85f,  6.85f,  9.65f,   13.65f,  24.0f,  48.0f,
                                       96.0f, 192.0f, 384.0f, 768.0f, 1536.0f, 3072.0f, 6144.0f};
 
-// Once-only report of a transmission time a whole half week before its
-// time of ephemeris. Atomic so that a race is defined; a lost race still
-// costs one more report, as with a plain flag.
-std::atomic<bool> s_bTransmissionTimeReported(false);
-
 // Signed 32-bit arithmetic that wraps instead of overflowing.
 int32_t Wrap32(int64_t l)
 {
@@ -29,37 +24,12 @@ int32_t Wrap32(int64_t l)
 
 } // namespace
 
-ZELX_SAT_EPHEMERIS::ZELX_SAT_EPHEMERIS()
-    : uiSvId(0), bValid(false), ulTransmissionTime(c_ulNO_TRANSMISSION_TIME), unGPSWeek(0), unUraIndex(0),
-      aunWords(), unIodc(0), fGroupDelay(0.0f), ulToe(0), ulToc(0), afClock(),
-      ucFitIntervalFlag(c_ucFIT_INTERVAL_UNKNOWN), unHealth(1)
-{
-}
-
 ZELX_SAT_EPHEMERIS::~ZELX_SAT_EPHEMERIS() = default;
 
+// Assigns the GPS part only: a QZSS record keeps its own fields here.
 void ZELX_SAT_EPHEMERIS::clear()
 {
-    ZELX_SAT_EPHEMERIS_COMMON::clear();
-    uiSvId = 0;
-    bValid = false;
-    ulTransmissionTime = c_ulNO_TRANSMISSION_TIME;
-    unGPSWeek = 0;
-    unUraIndex = 0;
-    for (uint16_t& run : aunWords)
-    {
-        run = 0;
-    }
-    unIodc = 0;
-    fGroupDelay = 0.0f;
-    ulToe = 0;
-    ulToc = 0;
-    for (float& rf : afClock)
-    {
-        rf = 0.0f;
-    }
-    ucFitIntervalFlag = c_ucFIT_INTERVAL_UNKNOWN;
-    unHealth = 1;
+    *this = ZELX_SAT_EPHEMERIS();
 }
 
 uint8_t ZELX_SAT_EPHEMERIS::getSvId() const
@@ -126,9 +96,8 @@ uint8_t ZELX_SAT_EPHEMERIS::getFitIntervalHours() const
         return 26;
     }
     // Values reserved by the signal's definition are reported; the answer stays 6.
-    // clang-format off
-    ZEL_ASSERT(!((unIodc >= 504 && unIodc <= 511) || (unIodc >= 752 && unIodc <= 757) ));
-    // clang-format on
+    const bool bReserved = (unIodc >= 504 && unIodc <= 511) || (unIodc >= 752 && unIodc <= 757);
+    ZEL_ASSERT_TEXT(!bReserved, "!((unIodc >= 504 && unIodc <= 511) || (unIodc >= 752 && unIodc <= 757) )");
     return 6;
 }
 
@@ -158,13 +127,9 @@ int32_t ZELX_SAT_EPHEMERIS::getTransmissionTimeOfWeek() const
     }
     if (d < -302400)
     {
-        if (!s_bTransmissionTimeReported.load(std::memory_order_relaxed))
-        {
-            s_bTransmissionTimeReported.store(true, std::memory_order_relaxed);
-            // clang-format off
-            ZEL_ASSERT((!"Validity time of ephemeris is too far away in the future w.r.t. ephemeris transmission time. Please check the data"));
-            // clang-format on
-        }
+        // Reported once per process, with the text the check carries.
+        ZEL_ASSERT_ONCE_TEXT(false, "(!\"Validity time of ephemeris is too far away in the future w.r.t. "
+                                    "ephemeris transmission time. Please check the data\")");
         return Wrap32(static_cast<int64_t>(ulTransmissionTime) + 604800);
     }
     return static_cast<int32_t>(ulTransmissionTime);
@@ -188,19 +153,12 @@ void ZELX_SAT_EPHEMERIS::setUra(float fMetres)
     unUraIndex = 15;
 }
 
-// The check names the argument as broadcast; it shadows the field on purpose.
-#if defined(__GNUC__)
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wshadow"
-#endif
-void ZELX_SAT_EPHEMERIS::setHealth(uint16_t unHealth)
+// The report names the value as broadcast, unHealth.
+void ZELX_SAT_EPHEMERIS::setHealth(uint16_t unValue)
 {
-    ZEL_ASSERT(0 == (unHealth & ~0x3f));
-    this->unHealth = static_cast<uint16_t>(unHealth & 0x3F);
+    ZEL_ASSERT_TEXT(0 == (unValue & ~0x3f), "0 == (unHealth & ~0x3f)");
+    unHealth = static_cast<uint16_t>(unValue & 0x3F);
 }
-#if defined(__GNUC__)
-#pragma GCC diagnostic pop
-#endif
 
 void ZELX_SAT_EPHEMERIS::setHealthBool(bool bUnhealthy)
 {
@@ -217,59 +175,14 @@ void ZELX_SAT_EPHEMERIS::setClock(size_t ulIndex, float fValue)
     ZelIo::SetElement(afClock, ulIndex, fValue);
 }
 
-// Image: own fields at 0 to 48, the Keplerian block at 49.
 bool ZELX_SAT_EPHEMERIS::saveData(unsigned char* pBuffer, uint64_t uiBufferLength) const
 {
-    if (!ZelIo::ExtFits(pBuffer, uiBufferLength, c_ulImageSize))
-    {
-        return false;
-    }
-    ZelIo::PutAt(pBuffer, 0, uiSvId);
-    ZelIo::PutAt(pBuffer, 1, bValid);
-    ZelIo::PutAt(pBuffer, 2, ulTransmissionTime);
-    ZelIo::PutAt(pBuffer, 6, unGPSWeek);
-    ZelIo::PutAt(pBuffer, 8, unUraIndex);
-    ZelIo::PutArrayAt(pBuffer, 10, aunWords);
-    ZelIo::PutAt(pBuffer, 20, unIodc);
-    ZelIo::PutAt(pBuffer, 22, fGroupDelay);
-    ZelIo::PutAt(pBuffer, 26, ulToe);
-    ZelIo::PutAt(pBuffer, 30, ulToc);
-    ZelIo::PutArrayAt(pBuffer, 34, afClock);
-    ZelIo::PutAt(pBuffer, 46, ucFitIntervalFlag);
-    ZelIo::PutAt(pBuffer, 47, unHealth);
-    if (!ZELX_SAT_EPHEMERIS_COMMON::saveData(pBuffer + 49, uiBufferLength - 49))
-    {
-        ZEL_ASSERT(false);
-        return false;
-    }
-    return true;
+    return ZelIo::SaveExt(*this, pBuffer, uiBufferLength);
 }
 
 bool ZELX_SAT_EPHEMERIS::loadData(const unsigned char* pBuffer, uint64_t uiBufferLength)
 {
-    if (!ZelIo::ExtFits(pBuffer, uiBufferLength, c_ulImageSize))
-    {
-        return false;
-    }
-    ZelIo::GetAt(pBuffer, 0, uiSvId);
-    ZelIo::GetAt(pBuffer, 1, bValid);
-    ZelIo::GetAt(pBuffer, 2, ulTransmissionTime);
-    ZelIo::GetAt(pBuffer, 6, unGPSWeek);
-    ZelIo::GetAt(pBuffer, 8, unUraIndex);
-    ZelIo::GetArrayAt(pBuffer, 10, aunWords);
-    ZelIo::GetAt(pBuffer, 20, unIodc);
-    ZelIo::GetAt(pBuffer, 22, fGroupDelay);
-    ZelIo::GetAt(pBuffer, 26, ulToe);
-    ZelIo::GetAt(pBuffer, 30, ulToc);
-    ZelIo::GetArrayAt(pBuffer, 34, afClock);
-    ZelIo::GetAt(pBuffer, 46, ucFitIntervalFlag);
-    ZelIo::GetAt(pBuffer, 47, unHealth);
-    if (!ZELX_SAT_EPHEMERIS_COMMON::loadData(pBuffer + 49, uiBufferLength - 49))
-    {
-        ZEL_ASSERT(false);
-        return false;
-    }
-    return true;
+    return ZelIo::LoadExt(*this, pBuffer, uiBufferLength);
 }
 
 bool operator==(const ZELX_SAT_EPHEMERIS& a, const ZELX_SAT_EPHEMERIS& b)
@@ -290,14 +203,14 @@ bool operator==(const ZELX_SAT_EPHEMERIS& a, const ZELX_SAT_EPHEMERIS& b)
             return false;
         }
     }
-    if (a.unIodc != b.unIodc || !AreCloseF(a.fGroupDelay, b.fGroupDelay, 1e-6f) || a.ulToe != b.ulToe ||
+    if (a.unIodc != b.unIodc || !AreCloseRel(a.fGroupDelay, b.fGroupDelay) || a.ulToe != b.ulToe ||
         a.ulToc != b.ulToc)
     {
         return false;
     }
     for (size_t ulIdx = 0; ulIdx < 3; ++ulIdx)
     {
-        if (!AreCloseF(a.afClock[ulIdx], b.afClock[ulIdx], 1e-6f))
+        if (!AreCloseRel(a.afClock[ulIdx], b.afClock[ulIdx]))
         {
             return false;
         }
@@ -307,17 +220,9 @@ bool operator==(const ZELX_SAT_EPHEMERIS& a, const ZELX_SAT_EPHEMERIS& b)
 
 bool isNewEphemerisGps(const ZELX_SAT_EPHEMERIS& rEphCurrent, const ZELX_SAT_EPHEMERIS& rEphNew)
 {
-    if (!rEphNew.bValid)
+    if (const auto obTaken = ZelEphUpdate::Head(rEphCurrent, rEphNew, rEphCurrent.bValid, rEphNew.bValid))
     {
-        return false;
-    }
-    if (!rEphCurrent.bValid)
-    {
-        return true;
-    }
-    if (rEphCurrent.isHealthy() != rEphNew.isHealthy())
-    {
-        return true;
+        return *obTaken;
     }
     const SMjdTime stToeCurrent = rEphCurrent.getToe();
     const SMjdTime stToeNew = rEphNew.getToe();
@@ -325,15 +230,13 @@ bool isNewEphemerisGps(const ZELX_SAT_EPHEMERIS& rEphCurrent, const ZELX_SAT_EPH
     SMjdTime stEarliest = stToeCurrent;
     stEarliest.RoundTo(MJDSTEP_1H);
     stEarliest.SubMilliseconds(64000.0);
-    if (stToeNew < stEarliest)
+    if (const auto obTaken = ZelEphUpdate::TimeAndIssue(stToeCurrent, stToeNew, stEarliest,
+                                                        rEphCurrent.unIodc != rEphNew.unIodc))
     {
-        return false;
+        return *obTaken;
     }
-    if (rEphCurrent.unIodc != rEphNew.unIodc)
-    {
-        return true;
-    }
-    if (stToeNew < stToeCurrent || stToeCurrent < stToeNew)
+    // An earlier set within the allowance is taken like a later one.
+    if (stToeNew < stToeCurrent)
     {
         return true;
     }

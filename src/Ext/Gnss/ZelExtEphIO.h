@@ -1,13 +1,14 @@
 #ifndef ZELTYPES_SRC_EXT_GNSS_ZELEXTEPHIO_H
 #define ZELTYPES_SRC_EXT_GNSS_ZELEXTEPHIO_H
 
-// Image steps of the ephemeris family beyond the shared Ext helpers. The
-// callers have tested the image length before any of these.
+// Private helpers of the ephemeris family: guarded array setters and the
+// rungs that the update decisions share.
 
-#include <ZelTypes/Core/Common/ZelRecordIO.h>
+#include <ZelTypes/Core/Common/ZelAssert.h>
 #include <ZelTypes/Core/Common/mjdTime.h>
 
-#include <cstdint>
+#include <cstddef>
+#include <optional>
 
 namespace ZELN
 {
@@ -26,73 +27,58 @@ template <class T, size_t N, class V> inline void SetElement(T (&aArray)[N], siz
     aArray[ulIndex] = rValue;
 }
 
-// The gate of a versioned image whose version is looked at before its
-// length: buffer, then version (refused with the class's own text), then
-// length. An empty buffer has no version byte to look at: it fails as a
-// short one.
-inline bool ExtVersionGate(const unsigned char* pBuffer, uint64_t uiBufferLength, uint8_t ucVersion,
-                           const char* szOldVersion, uint64_t ulImageSize)
-{
-    if (pBuffer == nullptr || uiBufferLength == 0)
-    {
-        ZEL_ASSERT(false);
-        return false;
-    }
-    if (pBuffer[0] != ucVersion)
-    {
-        ZEL_REPORT(szOldVersion);
-        return false;
-    }
-    return ExtFits(pBuffer, uiBufferLength, ulImageSize);
-}
-
-// A time in its own 16-byte packed form, through its own writer and reader
-// (which make their own bound test); a failure is reported here once more,
-// as the outer record's own "false".
-inline bool PutTimeAt(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t ulOffset,
-                      const SMjdTime& rTime)
-{
-    uint64_t ulCount = 0;
-    if (!rTime.saveData(pBuffer + ulOffset, uiBufferLength - ulOffset, &ulCount))
-    {
-        ZEL_ASSERT(false);
-        return false;
-    }
-    return true;
-}
-
-inline bool GetTimeAt(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t ulOffset,
-                      SMjdTime& rTime)
-{
-    uint64_t ulCount = 0;
-    if (!rTime.loadData(pBuffer + ulOffset, uiBufferLength - ulOffset, &ulCount))
-    {
-        ZEL_ASSERT(false);
-        return false;
-    }
-    return true;
-}
-
-// Arrays of raw values, one after another.
-template <class T, size_t N>
-inline void PutArrayAt(unsigned char* pBuffer, uint64_t ulOffset, const T (&aValues)[N])
-{
-    for (size_t ulIdx = 0; ulIdx < N; ++ulIdx)
-    {
-        PutAt(pBuffer, ulOffset + ulIdx * sizeof(T), aValues[ulIdx]);
-    }
-}
-
-template <class T, size_t N>
-inline void GetArrayAt(const unsigned char* pBuffer, uint64_t ulOffset, T (&aValues)[N])
-{
-    for (size_t ulIdx = 0; ulIdx < N; ++ulIdx)
-    {
-        GetAt(pBuffer, ulOffset + ulIdx * sizeof(T), aValues[ulIdx]);
-    }
-}
-
 } // namespace ZelIo
+
+// The update ladder, as far as the classes share it. A rung either decides
+// (true: the new set replaces the held one; false: the held one stays) or
+// gives an empty result, and the class's own rungs go on. No rung reports.
+namespace ZelEphUpdate
+{
+
+// The head of every decision: an invalid new set is never taken, an invalid
+// held set always gives way, and a change of the health verdict is taken,
+// even for an older set.
+template <class E>
+inline std::optional<bool> Head(const E& rEphCurrent, const E& rEphNew, bool bCurrentValid, bool bNewValid)
+{
+    if (!bNewValid)
+    {
+        return false;
+    }
+    if (!bCurrentValid)
+    {
+        return true;
+    }
+    if (rEphCurrent.isHealthy() != rEphNew.isHealthy())
+    {
+        return true;
+    }
+    return std::nullopt;
+}
+
+// The rungs of the classes that go by one time of ephemeris and an issue of
+// data: a new set earlier than stEarliest is not taken, a new issue of data
+// is, and so is a later set. Earlier is the time's operator < at the
+// accuracy of its left operand.
+inline std::optional<bool> TimeAndIssue(const SMjdTime& stToeCurrent, const SMjdTime& stToeNew,
+                                        const SMjdTime& stEarliest, bool bNewIssue)
+{
+    if (stToeNew < stEarliest)
+    {
+        return false;
+    }
+    if (bNewIssue)
+    {
+        return true;
+    }
+    if (stToeCurrent < stToeNew)
+    {
+        return true;
+    }
+    return std::nullopt;
+}
+
+} // namespace ZelEphUpdate
 } // namespace ZELN
 
 #endif

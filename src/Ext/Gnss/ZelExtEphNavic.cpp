@@ -1,38 +1,17 @@
 #include <ZelTypes/Ext/Gnss/ZelExtEphNavic.h>
 
+#include <ZelTypes/Core/Common/ZelCompare.h>
+
 #include "ZelExtEphIO.h"
 
 namespace ZELN
 {
 
-ZELX_SAT_EPHEMERIS_NAVIC::ZELX_SAT_EPHEMERIS_NAVIC()
-    : ulPrn(0), ulAux1(0), bValid(false), adClock(), fUra(0.0f), stToc(), dAux2(0.0), ucIodec(0),
-      ucHealthFlag1(0), ucHealthFlag2(0), stToe(), ucAlertFlag(1), ucAux3(0), unPT1Week(0), ulPT1Tow(0)
-{
-}
-
 ZELX_SAT_EPHEMERIS_NAVIC::~ZELX_SAT_EPHEMERIS_NAVIC() = default;
 
 void ZELX_SAT_EPHEMERIS_NAVIC::clear()
 {
-    ZELX_SAT_EPHEMERIS_COMMON::clear();
-    ulPrn = 0;
-    ulAux1 = 0;
-    bValid = false;
-    adClock[0] = 0.0;
-    adClock[1] = 0.0;
-    adClock[2] = 0.0;
-    fUra = 0.0f;
-    stToc = SMjdTime();
-    dAux2 = 0.0;
-    ucIodec = 0;
-    ucHealthFlag1 = 0;
-    ucHealthFlag2 = 0;
-    stToe = SMjdTime();
-    ucAlertFlag = 1;
-    ucAux3 = 0;
-    unPT1Week = 0;
-    ulPT1Tow = 0;
+    *this = ZELX_SAT_EPHEMERIS_NAVIC();
 }
 
 uint8_t ZELX_SAT_EPHEMERIS_NAVIC::getSvId() const
@@ -127,82 +106,18 @@ void ZELX_SAT_EPHEMERIS_NAVIC::setClock(size_t ulIndex, double dValue)
     ZelIo::SetElement(adClock, ulIndex, dValue);
 }
 
-// Image: version at 0, own fields at 1 to 88, the Keplerian block at 89.
 bool ZELX_SAT_EPHEMERIS_NAVIC::saveData(unsigned char* pBuffer, uint64_t uiBufferLength) const
 {
-    if (!ZelIo::ExtFits(pBuffer, uiBufferLength, c_ulImageSize))
-    {
-        return false;
-    }
-    ZelIo::PutAt(pBuffer, 0, c_ucImageVersion);
-    ZelIo::PutAt(pBuffer, 1, ulPrn);
-    ZelIo::PutAt(pBuffer, 5, ulAux1);
-    ZelIo::PutAt(pBuffer, 9, bValid);
-    ZelIo::PutArrayAt(pBuffer, 10, adClock);
-    ZelIo::PutAt(pBuffer, 34, fUra);
-    if (!ZelIo::PutTimeAt(pBuffer, uiBufferLength, 38, stToc))
-    {
-        return false;
-    }
-    ZelIo::PutAt(pBuffer, 54, dAux2);
-    ZelIo::PutAt(pBuffer, 62, ucIodec);
-    ZelIo::PutAt(pBuffer, 63, ucHealthFlag1);
-    ZelIo::PutAt(pBuffer, 64, ucHealthFlag2);
-    if (!ZelIo::PutTimeAt(pBuffer, uiBufferLength, 65, stToe))
-    {
-        return false;
-    }
-    ZelIo::PutAt(pBuffer, 81, ucAlertFlag);
-    ZelIo::PutAt(pBuffer, 82, ucAux3);
-    ZelIo::PutAt(pBuffer, 83, unPT1Week);
-    ZelIo::PutAt(pBuffer, 85, ulPT1Tow);
-    if (!ZELX_SAT_EPHEMERIS_COMMON::saveData(pBuffer + 89, uiBufferLength - 89))
-    {
-        ZEL_ASSERT(false);
-        return false;
-    }
-    return true;
+    return ZelIo::SaveExt(*this, pBuffer, uiBufferLength);
 }
 
+// The length is tested before the version, so that a short old image fails
+// as short; the versioned gate then finds the length in order.
 bool ZELX_SAT_EPHEMERIS_NAVIC::loadData(const unsigned char* pBuffer, uint64_t uiBufferLength)
 {
-    // Buffer and length first, then the version: a short old image fails as short.
-    if (!ZelIo::ExtFits(pBuffer, uiBufferLength, c_ulImageSize))
-    {
-        return false;
-    }
-    if (pBuffer[0] != c_ucImageVersion)
-    {
-        ZEL_REPORT("loadData(ZELX_SAT_EPHEMERIS_NAVIC) received old version.");
-        return false;
-    }
-    ZelIo::GetAt(pBuffer, 1, ulPrn);
-    ZelIo::GetAt(pBuffer, 5, ulAux1);
-    ZelIo::GetAt(pBuffer, 9, bValid);
-    ZelIo::GetArrayAt(pBuffer, 10, adClock);
-    ZelIo::GetAt(pBuffer, 34, fUra);
-    if (!ZelIo::GetTimeAt(pBuffer, uiBufferLength, 38, stToc))
-    {
-        return false;
-    }
-    ZelIo::GetAt(pBuffer, 54, dAux2);
-    ZelIo::GetAt(pBuffer, 62, ucIodec);
-    ZelIo::GetAt(pBuffer, 63, ucHealthFlag1);
-    ZelIo::GetAt(pBuffer, 64, ucHealthFlag2);
-    if (!ZelIo::GetTimeAt(pBuffer, uiBufferLength, 65, stToe))
-    {
-        return false;
-    }
-    ZelIo::GetAt(pBuffer, 81, ucAlertFlag);
-    ZelIo::GetAt(pBuffer, 82, ucAux3);
-    ZelIo::GetAt(pBuffer, 83, unPT1Week);
-    ZelIo::GetAt(pBuffer, 85, ulPT1Tow);
-    if (!ZELX_SAT_EPHEMERIS_COMMON::loadData(pBuffer + 89, uiBufferLength - 89))
-    {
-        ZEL_ASSERT(false);
-        return false;
-    }
-    return true;
+    return ZelIo::ExtFits(pBuffer, uiBufferLength, getSize()) &&
+           ZelIo::LoadExtVersioned(*this, pBuffer, uiBufferLength, c_ucImageVersion,
+                                   "loadData(ZELX_SAT_EPHEMERIS_NAVIC) received old version.");
 }
 
 bool operator==(const ZELX_SAT_EPHEMERIS_NAVIC& a, const ZELX_SAT_EPHEMERIS_NAVIC& b)
@@ -217,12 +132,12 @@ bool operator==(const ZELX_SAT_EPHEMERIS_NAVIC& a, const ZELX_SAT_EPHEMERIS_NAVI
     }
     for (size_t ulIdx = 0; ulIdx < 3; ++ulIdx)
     {
-        if (!AreClose(a.adClock[ulIdx], b.adClock[ulIdx], 1e-14))
+        if (!AreCloseRel(a.adClock[ulIdx], b.adClock[ulIdx]))
         {
             return false;
         }
     }
-    if (!AreCloseF(a.fUra, b.fUra, 1e-6f) || a.stToc != b.stToc || !AreClose(a.dAux2, b.dAux2, 1e-14))
+    if (!AreCloseRel(a.fUra, b.fUra) || a.stToc != b.stToc || !AreCloseRel(a.dAux2, b.dAux2))
     {
         return false;
     }
@@ -237,17 +152,9 @@ bool operator==(const ZELX_SAT_EPHEMERIS_NAVIC& a, const ZELX_SAT_EPHEMERIS_NAVI
 
 bool isNewEphemerisNavic(const ZELX_SAT_EPHEMERIS_NAVIC& rEphCurrent, const ZELX_SAT_EPHEMERIS_NAVIC& rEphNew)
 {
-    if (!rEphNew.bValid)
+    if (const auto obTaken = ZelEphUpdate::Head(rEphCurrent, rEphNew, rEphCurrent.bValid, rEphNew.bValid))
     {
-        return false;
-    }
-    if (!rEphCurrent.bValid)
-    {
-        return true;
-    }
-    if (rEphCurrent.isHealthy() != rEphNew.isHealthy())
-    {
-        return true;
+        return *obTaken;
     }
     if (rEphCurrent.stToc < rEphNew.stToc)
     {

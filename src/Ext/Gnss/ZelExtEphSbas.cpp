@@ -1,14 +1,9 @@
 #include <ZelTypes/Ext/Gnss/ZelExtEphSbas.h>
 
+#include <ZelTypes/Core/Common/ZelCompare.h>
+
 namespace ZELN
 {
-
-ZELX_SAT_EPHEMERIS_SBAS::ZELX_SAT_EPHEMERIS_SBAS()
-    : uiSvId(0), unGPSWeek(0), ucAux1(0), ulToe(0), dClock(0.0), fUra(0.0f), ulAux2(0), dPosX(0.0),
-      dPosY(0.0), dPosZ(0.0), dVelX(0.0), dVelY(0.0), dVelZ(0.0), dAccX(0.0), dAccY(0.0), dAccZ(0.0),
-      ucHealth(1), ucAux3(0), ucIod(0)
-{
-}
 
 ZELX_SAT_EPHEMERIS_SBAS::~ZELX_SAT_EPHEMERIS_SBAS() = default;
 
@@ -56,13 +51,11 @@ uint8_t ZELX_SAT_EPHEMERIS_SBAS::getFirstPrn() const
 bool operator==(const ZELX_SAT_EPHEMERIS_SBAS& a, const ZELX_SAT_EPHEMERIS_SBAS& b)
 {
     return a.uiSvId == b.uiSvId && a.unGPSWeek == b.unGPSWeek && a.ucAux1 == b.ucAux1 && a.ulToe == b.ulToe &&
-           AreClose(a.dClock, b.dClock, 1e-14) && AreCloseF(a.fUra, b.fUra, 1e-6f) && a.ulAux2 == b.ulAux2 &&
-           AreClose(a.dPosX, b.dPosX, 1e-14) && AreClose(a.dPosY, b.dPosY, 1e-14) &&
-           AreClose(a.dPosZ, b.dPosZ, 1e-14) && AreClose(a.dVelX, b.dVelX, 1e-14) &&
-           AreClose(a.dVelY, b.dVelY, 1e-14) && AreClose(a.dVelZ, b.dVelZ, 1e-14) &&
-           AreClose(a.dAccX, b.dAccX, 1e-14) && AreClose(a.dAccY, b.dAccY, 1e-14) &&
-           AreClose(a.dAccZ, b.dAccZ, 1e-14) && a.ucHealth == b.ucHealth && a.ucAux3 == b.ucAux3 &&
-           a.ucIod == b.ucIod;
+           AreCloseRel(a.dClock, b.dClock) && AreCloseRel(a.fUra, b.fUra) && a.ulAux2 == b.ulAux2 &&
+           AreCloseRel(a.dPosX, b.dPosX) && AreCloseRel(a.dPosY, b.dPosY) && AreCloseRel(a.dPosZ, b.dPosZ) &&
+           AreCloseRel(a.dVelX, b.dVelX) && AreCloseRel(a.dVelY, b.dVelY) && AreCloseRel(a.dVelZ, b.dVelZ) &&
+           AreCloseRel(a.dAccX, b.dAccX) && AreCloseRel(a.dAccY, b.dAccY) && AreCloseRel(a.dAccZ, b.dAccZ) &&
+           a.ucHealth == b.ucHealth && a.ucAux3 == b.ucAux3 && a.ucIod == b.ucIod;
 }
 
 } // namespace ZELN

@@ -1,5 +1,7 @@
 #include <ZelTypes/Ext/Gnss/ZelExtEphTypes.h>
 
+#include <ZelTypes/Core/Common/ZelCompare.h>
+
 #include "ZelExtEphIO.h"
 
 #include <cmath>
@@ -110,20 +112,12 @@ uint8_t ConvUraMetresToIndex(float fMetres)
 
 // ------------------------------------------------------------------ Keplerian block
 
-ZELX_SAT_EPHEMERIS_COMMON::ZELX_SAT_EPHEMERIS_COMMON() : adKepler(), afHarmonics() {}
-
 ZELX_SAT_EPHEMERIS_COMMON::~ZELX_SAT_EPHEMERIS_COMMON() = default;
 
+// Assigns the block part only: a derived record keeps its own fields.
 void ZELX_SAT_EPHEMERIS_COMMON::clear()
 {
-    for (double& rd : adKepler)
-    {
-        rd = 0.0;
-    }
-    for (float& rf : afHarmonics)
-    {
-        rf = 0.0f;
-    }
+    *this = ZELX_SAT_EPHEMERIS_COMMON();
 }
 
 void ZELX_SAT_EPHEMERIS_COMMON::setKepler(size_t ulIndex, double dValue)
@@ -136,48 +130,29 @@ void ZELX_SAT_EPHEMERIS_COMMON::setHarmonic(size_t ulIndex, float fValue)
     ZelIo::SetElement(afHarmonics, ulIndex, fValue);
 }
 
-// Image: adKepler at 0 (9 x 8), afHarmonics at 72 (6 x 4).
 bool ZELX_SAT_EPHEMERIS_COMMON::saveData(unsigned char* pBuffer, uint64_t uiBufferLength) const
 {
-    if (!ZelIo::ExtFits(pBuffer, uiBufferLength, c_ulImageSize))
-    {
-        return false;
-    }
-    ZelIo::PutArrayAt(pBuffer, 0, adKepler);
-    ZelIo::PutArrayAt(pBuffer, 72, afHarmonics);
-    return true;
+    return ZelIo::SaveExt(*this, pBuffer, uiBufferLength);
 }
 
 bool ZELX_SAT_EPHEMERIS_COMMON::loadData(const unsigned char* pBuffer, uint64_t uiBufferLength)
 {
-    if (!ZelIo::ExtFits(pBuffer, uiBufferLength, c_ulImageSize))
-    {
-        return false;
-    }
-    ZelIo::GetArrayAt(pBuffer, 0, adKepler);
-    ZelIo::GetArrayAt(pBuffer, 72, afHarmonics);
-    return true;
+    return ZelIo::LoadExt(*this, pBuffer, uiBufferLength);
 }
 
 bool operator==(const ZELX_SAT_EPHEMERIS_COMMON& a, const ZELX_SAT_EPHEMERIS_COMMON& b)
 {
-    for (size_t ulIdx = 0; ulIdx < 6; ++ulIdx)
+    for (size_t ulIdx = 0; ulIdx < ZELEPHKEPLER_COUNT; ++ulIdx)
     {
-        if (!AreClose(a.adKepler[ulIdx], b.adKepler[ulIdx], 1e-14))
-        {
-            return false;
-        }
-    }
-    for (size_t ulIdx = 6; ulIdx < ZELEPHKEPLER_COUNT; ++ulIdx)
-    {
-        if (!AreClose(a.adKepler[ulIdx], b.adKepler[ulIdx], 1e-6))
+        const double dTolerance = ulIdx < ZELEPHKEPLER_DELTAN ? c_dREL_TOLERANCE_64 : 1e-6;
+        if (!AreClose(a.adKepler[ulIdx], b.adKepler[ulIdx], dTolerance))
         {
             return false;
         }
     }
     for (size_t ulIdx = 0; ulIdx < ZELEPHHARMONIC_COUNT; ++ulIdx)
     {
-        if (!AreCloseF(a.afHarmonics[ulIdx], b.afHarmonics[ulIdx], 1e-6f))
+        if (!AreCloseRel(a.afHarmonics[ulIdx], b.afHarmonics[ulIdx]))
         {
             return false;
         }
@@ -187,17 +162,13 @@ bool operator==(const ZELX_SAT_EPHEMERIS_COMMON& a, const ZELX_SAT_EPHEMERIS_COM
 
 // ------------------------------------------------------------------ block with two values
 
-// The two values start at zero rather than undetermined: a copy of an
-// undetermined value is not defined behaviour.
-ZELX_SAT_EPHEMERIS_PARAMS::ZELX_SAT_EPHEMERIS_PARAMS() : ucAux1(0), dAux2(0.0) {}
-
 ZELX_SAT_EPHEMERIS_PARAMS::~ZELX_SAT_EPHEMERIS_PARAMS() = default;
 
 bool operator==(const ZELX_SAT_EPHEMERIS_PARAMS& a, const ZELX_SAT_EPHEMERIS_PARAMS& b)
 {
     return static_cast<const ZELX_SAT_EPHEMERIS_COMMON&>(a) ==
                static_cast<const ZELX_SAT_EPHEMERIS_COMMON&>(b) &&
-           a.ucAux1 == b.ucAux1 && AreClose(a.dAux2, b.dAux2, 1e-14);
+           a.ucAux1 == b.ucAux1 && AreCloseRel(a.dAux2, b.dAux2);
 }
 
 } // namespace ZELN

@@ -5,6 +5,8 @@
 
 #include <boost/function.hpp>
 
+#include <atomic>
+
 namespace ZELN
 {
 
@@ -20,6 +22,19 @@ ZELTYPES_API ZelTraceHandler& GetTraceHandler();
 ZELTYPES_API ZelAssertHandler SetAssertHandler(const ZelAssertHandler& rHandler);
 ZELTYPES_API ZelTraceHandler SetTraceHandler(const ZelTraceHandler& rHandler);
 
+// Once-only latch of a report that must not flood a host. Atomic, so that
+// two threads failing the same check at once are well defined; exactly one
+// of them reports.
+class CZelOnceLatch
+{
+public:
+    // True for the first caller only.
+    bool First() { return !m_bDone.exchange(true, std::memory_order_relaxed); }
+
+private:
+    std::atomic<bool> m_bDone{false};
+};
+
 } // namespace ZELN
 
 // The expression text is handed over exactly as written; variadic so that
@@ -31,6 +46,45 @@ ZELTYPES_API ZelTraceHandler SetTraceHandler(const ZelTraceHandler& rHandler);
         if (!(__VA_ARGS__))                                                                                  \
         {                                                                                                    \
             (void)::ZELN::GetAssertHandler()(#__VA_ARGS__, __FILE__, __LINE__);                              \
+        }                                                                                                    \
+    } while (false)
+
+// A check reported once per process: one latch per check site.
+#define ZEL_ASSERT_ONCE(...)                                                                                 \
+    do                                                                                                       \
+    {                                                                                                        \
+        if (!(__VA_ARGS__))                                                                                  \
+        {                                                                                                    \
+            static ::ZELN::CZelOnceLatch s_zelOnceLatch;                                                     \
+            if (s_zelOnceLatch.First())                                                                      \
+            {                                                                                                \
+                (void)::ZELN::GetAssertHandler()(#__VA_ARGS__, __FILE__, __LINE__);                          \
+            }                                                                                                \
+        }                                                                                                    \
+    } while (false)
+
+// A check whose condition is written naturally and whose report carries a
+// given text: the text a host sees stays fixed however the code is laid out.
+#define ZEL_ASSERT_TEXT(bCondition, szText)                                                                  \
+    do                                                                                                       \
+    {                                                                                                        \
+        if (!(bCondition))                                                                                   \
+        {                                                                                                    \
+            (void)::ZELN::GetAssertHandler()((szText), __FILE__, __LINE__);                                  \
+        }                                                                                                    \
+    } while (false)
+
+// The once-only form of ZEL_ASSERT_TEXT.
+#define ZEL_ASSERT_ONCE_TEXT(bCondition, szText)                                                             \
+    do                                                                                                       \
+    {                                                                                                        \
+        if (!(bCondition))                                                                                   \
+        {                                                                                                    \
+            static ::ZELN::CZelOnceLatch s_zelOnceLatch;                                                     \
+            if (s_zelOnceLatch.First())                                                                      \
+            {                                                                                                \
+                (void)::ZELN::GetAssertHandler()((szText), __FILE__, __LINE__);                              \
+            }                                                                                                \
         }                                                                                                    \
     } while (false)
 

@@ -31,17 +31,33 @@ constexpr double c_dWGS84_BOWRING_NUMERATOR = 42841.31151296818;
 
 constexpr size_t c_ulNB_ROTATION_VALUES = 8;
 
+// Cartesian X, Y, Z (metres) to latitude, longitude (radians) and
+// ellipsoidal height (metres), by Bowring's closed form in one step.
+// Error against the exact (iterated) solution, measured over latitudes
+// -89.999 to 89.999 degrees and all longitudes, growing with the square of
+// the height: from -1000 m to 500 m below 0.1 micrometre in latitude and
+// 0.3 micrometre in height; about 4 micrometres at 20 km; 0.085 mm in
+// latitude and 0.103 mm in height at 100 km. Tested bound: 2 micrometres +
+// 0.15 mm * (h / 100 km)^2, in height 0.1 mm more beyond 89 degrees. A
+// round trip through ConvGeographicToCartesian comes back within 0.13 mm
+// from -1000 m to 100 km (tested: 1 mm). Above 100 km the error keeps
+// growing with the height squared; no bound is tested there.
 // A point on the polar axis (or with a NaN in X or Y) has no conversion: the
 // outputs, rotation included, are left as they were, without a report.
 ZELTYPES_API void ConvCartesianToGeographic(double dX, double dY, double dZ, double& rdLat, double& rdLon,
                                             double& rdHeight, double* pdRotation);
 
+// Latitude, longitude (radians) and ellipsoidal height (metres) to
+// cartesian X, Y, Z (metres). A formula without approximation on the
+// stored constants: the error is the rounding of double arithmetic, below
+// 2 nm against extended precision from -1000 m to 100 km (tested: 10 nm).
 ZELTYPES_API void ConvGeographicToCartesian(double dLat, double dLon, double dHeight, double& rdX,
                                             double& rdY, double& rdZ, double* pdRotation);
 
-// Triplet forms: rCart must be cartesian (rGeo geographic); another type
-// reports "false" and does nothing. The result's type is set in every other
-// case, also when the point has no conversion.
+// Triplet forms, with the errors of the forms above: rCart must be
+// cartesian (rGeo geographic); another type reports "false" and does
+// nothing. The result's type is set in every other case, also when the
+// point has no conversion.
 ZELTYPES_API void ConvCartesianToGeographic(const SZelCoordinateTriplet& rCart, SZelCoordinateTriplet& rGeo,
                                             double* pdRotation);
 

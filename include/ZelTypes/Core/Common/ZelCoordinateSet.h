@@ -5,8 +5,10 @@
 // by side, with the local north/east/up rotation; and the azimuth and
 // elevation of a target seen from a position.
 
+#include <ZelTypes/Core/Common/ZelCompare.h>
 #include <ZelTypes/Core/Common/ZelCoordinateTriplet.h>
 #include <ZelTypes/Core/Common/ZelExport.h>
+#include <ZelTypes/Core/Common/ZelRecordIO.h>
 
 #include <cstdint>
 #include <istream>
@@ -23,12 +25,14 @@ constexpr uint8_t c_ucCOORDSET_AVL_TRAFO = 4;
 class ZELTYPES_API SZelCoordinateSet
 {
 public:
-    uint8_t ucAvl;
-    SZelCoordinateTriplet stCart;
-    SZelCoordinateTriplet stGeo;
-    double adTrafo[8]; // earth-centred to north/east/up, see ZelConvGeographicCartesian.h
+    uint8_t ucAvl = 0;            // c_ucCOORDSET_AVL_* bits
+    SZelCoordinateTriplet stCart; // X, Y, Z in metres, earth-centred
+    SZelCoordinateTriplet stGeo;  // latitude, longitude in radians, ellipsoidal height in metres
+    // Earth-centred to north/east/up at the position, unitless, without the
+    // east row's zero; the layout of ZelConvGeographicCartesian.h.
+    double adTrafo[8] = {};
 
-    SZelCoordinateSet();
+    SZelCoordinateSet() = default;
     SZelCoordinateSet(const SZelCoordinateSet& rOther) = default;
     SZelCoordinateSet& operator=(const SZelCoordinateSet& rOther) = default;
     virtual ~SZelCoordinateSet();
@@ -40,59 +44,105 @@ public:
     // ucAvl to 0; with bAll also the triplets and the rotation.
     virtual void Clear(bool bAll = true);
 
-    uint64_t getSize() const { return 1 + stCart.getSize() + stGeo.getSize() + 64; }
+    // Image, 121 bytes, nothing padded: ucAvl at 0, the cartesian triplet at
+    // 1, the geographic one at 29, the rotation at 57. The triplets are sized
+    // by their own getSize; a failed triplet gives false without a further
+    // report.
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
+    {
+        return io.Raw(r.ucAvl) && io.Record(r.stCart, false) && io.Record(r.stGeo, false) &&
+               io.Raw(r.adTrafo);
+    }
+    // Text: "Avl, " n ", Cart, " triplet ", Geo, " triplet ", Trafo" and 8
+    // times ", " value in scientific form with 17 digits; format and
+    // precision stay set. The tag ", Trafo, " carries the comma before the
+    // first value, so the values are read as an array.
+    template <class IO, class Self> static void VisitText(IO& io, Self& r)
+    {
+        io.Tag("Avl, ")
+            .template Wide<uint32_t>(r.ucAvl)
+            .Tag(", Cart, ")
+            .Value(r.stCart)
+            .Tag(", Geo, ")
+            .Value(r.stGeo)
+            .Tag(", Trafo, ")
+            .Scientific()
+            .Precision(17)
+            .Array(r.adTrafo);
+    }
+
+    uint64_t getSize() const { return ZelIo::SizeOf(*this); }
     bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const;
     bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset);
 };
 
 // The rotation first (a NaN makes the sets unequal), then ucAvl and the triplets.
 ZELTYPES_API bool operator==(const SZelCoordinateSet& a, const SZelCoordinateSet& b);
-ZELTYPES_API bool operator!=(const SZelCoordinateSet& a, const SZelCoordinateSet& b);
 
-// "Avl, " n ", Cart, " triplet ", Geo, " triplet ", Trafo" and 8 times ", "
-// value in scientific form with 17 digits; format and precision stay set.
 ZELTYPES_API std::ostream& operator<<(std::ostream& os, const SZelCoordinateSet& rSet);
 ZELTYPES_API std::istream& operator>>(std::istream& is, SZelCoordinateSet& rSet);
 
-// A satellite's earth-centred position and velocity with its range and range
-// rate as seen from a receiver, the input of ComputeAzimuthElevationRate.
+// A satellite's position and velocity, earth-centred and earth-fixed, with
+// its range and range rate as seen from a receiver: the input of
+// ComputeAzimuthElevationRate.
 struct ZELTYPES_API SZelSatPosVel
 {
-    double adPos[3];
-    double adVel[3];
-    double dRange;
-    double dRangeRate;
+    double adPos[3] = {};    // X, Y, Z in metres
+    double adVel[3] = {};    // X, Y, Z in metres per second
+    double dRange = 0.0;     // metres
+    double dRangeRate = 0.0; // metres per second, positive when the range grows
 
-    SZelSatPosVel() : adPos{0.0, 0.0, 0.0}, adVel{0.0, 0.0, 0.0}, dRange(0.0), dRangeRate(0.0) {}
+    // Image, 64 bytes: position at 0, velocity at 24, range at 48, rate at 56.
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
+    {
+        return io.Raw(r.adPos) && io.Raw(r.adVel) && io.Raw(r.dRange) && io.Raw(r.dRangeRate);
+    }
+    // Text: "Pos, " x, y, z ", Vel, " vx, vy, vz ", Rng, " r ", RngRate, " rr,
+    // at 12 digits; the precision stays set.
+    template <class IO, class Self> static void VisitText(IO& io, Self& r)
+    {
+        io.Tag("Pos, ")
+            .Precision(12)
+            .Array(r.adPos)
+            .Tag(", Vel, ")
+            .Array(r.adVel)
+            .Tag(", Rng, ")
+            .Value(r.dRange)
+            .Tag(", RngRate, ")
+            .Value(r.dRangeRate);
+    }
 
-    uint64_t getSize() const { return 64; }
+    uint64_t getSize() const { return ZelIo::SizeOf(*this); }
     bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const;
     bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset);
 };
 
 // Exact, a NaN unequal.
 ZELTYPES_API bool operator==(const SZelSatPosVel& a, const SZelSatPosVel& b);
-ZELTYPES_API bool operator!=(const SZelSatPosVel& a, const SZelSatPosVel& b);
 
-// "Pos, " x, y, z ", Vel, " vx, vy, vz ", Rng, " r ", RngRate, " rr, 12 digits.
 ZELTYPES_API std::ostream& operator<<(std::ostream& os, const SZelSatPosVel& rSatPos);
 ZELTYPES_API std::istream& operator>>(std::istream& is, SZelSatPosVel& rSatPos);
 
-// Azimuth (0 to 2 pi, from north through east), elevation and range of
-// adTarget seen from the cartesian rstPos, with adRotation the 8-value
-// rotation at rstPos. A zero distance gives elevation pi/2, azimuth 0.
+// Azimuth (radians, 0 to 2 pi, from north through east), elevation
+// (radians above the local horizon) and range (metres) of adTarget (X, Y, Z
+// in metres, earth-centred) seen from the cartesian rstPos, with adRotation
+// the 8-value rotation at rstPos. A zero distance gives elevation pi/2,
+// azimuth 0.
 ZELTYPES_API void ComputeAzimuthElevation(const SZelCoordinateTriplet& rstPos, const double* adRotation,
                                           const double* adTarget, double& rdElevation, double& rdAzimuth,
                                           double& rdRange);
 
 // As above with the range taken from rstSatPos, and the rate of the
-// elevation from the satellite's velocity and range rate.
+// elevation (radians per second) from the satellite's velocity and range
+// rate, for a receiver at rest.
 ZELTYPES_API void ComputeAzimuthElevationRate(const SZelCoordinateTriplet& rstPos, const double* adRotation,
                                               const SZelSatPosVel& rstSatPos, double& rdElevation,
                                               double& rdElevationRate, double& rdAzimuth, double& rdRange);
 
-// A geostationary satellite on the equator at dLongitudeDeg degrees, seen
-// from the site given by latitude, longitude (radians) and height of rstGeoPos.
+// A geostationary satellite on the equator at dLongitudeDeg degrees (east
+// positive), 35786035.9 m above the ellipsoid, seen from the site given by
+// latitude, longitude (radians) and height (metres) of rstGeoPos, whatever
+// its type; elevation and azimuth in radians.
 ZELTYPES_API void ComputeGeoSatAzimuthElevation(const SZelCoordinateTriplet& rstGeoPos, double dLongitudeDeg,
                                                 double& rdElevation, double& rdAzimuth);
 

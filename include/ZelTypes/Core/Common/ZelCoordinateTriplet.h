@@ -5,7 +5,9 @@
 // are. The vector arithmetic is meaningful for cartesian triplets only; on
 // anything else it reports and hands back the left operand.
 
+#include <ZelTypes/Core/Common/ZelCompare.h>
 #include <ZelTypes/Core/Common/ZelExport.h>
+#include <ZelTypes/Core/Common/ZelRecordIO.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -34,17 +36,17 @@ ZELTYPES_API const char* ToCoordinateSystemWord(EZelCoordinateSystem eSystem);
 // An unknown word gives ZELCOORDINATESYSTEM_INVALID.
 ZELTYPES_API EZelCoordinateSystem ReadCoordinateSystemWord(std::istream& is);
 
+// Three coordinates and their type. Cartesian: X, Y, Z in metres, earth-
+// centred and earth-fixed (WGS 84). Geographic and local geographic:
+// latitude and longitude in radians, ellipsoidal height in metres.
 struct ZELTYPES_API SZelCoordinateTriplet
 {
-    EZelCoordinateSystem ecoordinatesystem;
-    double dCoord1; // X in metres, or latitude in radians
-    double dCoord2; // Y in metres, or longitude in radians
-    double dCoord3; // Z or ellipsoidal height, in metres
+    EZelCoordinateSystem ecoordinatesystem = ZELCOORDINATESYSTEM_CARTESIAN;
+    double dCoord1 = 0.0; // X in metres, or latitude in radians (north positive)
+    double dCoord2 = 0.0; // Y in metres, or longitude in radians (east positive)
+    double dCoord3 = 0.0; // Z or ellipsoidal height (up), in metres
 
-    SZelCoordinateTriplet()
-        : ecoordinatesystem(ZELCOORDINATESYSTEM_CARTESIAN), dCoord1(0.0), dCoord2(0.0), dCoord3(0.0)
-    {
-    }
+    SZelCoordinateTriplet() = default;
 
     SZelCoordinateTriplet(EZelCoordinateSystem eSystem, double d1, double d2, double d3)
         : ecoordinatesystem(eSystem), dCoord1(d1), dCoord2(d2), dCoord3(d3)
@@ -56,14 +58,15 @@ struct ZELTYPES_API SZelCoordinateTriplet
     SZelCoordinateTriplet(const SZelCoordinateTriplet& rOther);
 
     // Copies all four fields, unchecked.
-    SZelCoordinateTriplet& operator=(const SZelCoordinateTriplet& rOther);
+    SZelCoordinateTriplet& operator=(const SZelCoordinateTriplet& rOther) = default;
 
     // Both must be cartesian (reported otherwise); the coordinates are added
     // whenever the two types are equal.
     SZelCoordinateTriplet& operator+=(const SZelCoordinateTriplet& rOther);
     SZelCoordinateTriplet& operator-=(const SZelCoordinateTriplet& rOther);
 
-    // Euclidean length of a cartesian triplet; 0.0 for any other type.
+    // Euclidean length of a cartesian triplet, in the unit of its coordinates;
+    // 0.0 for any other type.
     double Norm() const;
 
     // rResult gets a copy of this triplet, scaled to unit length when the
@@ -73,15 +76,38 @@ struct ZELTYPES_API SZelCoordinateTriplet
     // In place; false (and the triplet unchanged) when it cannot be done.
     bool Normalize();
 
-    void Reset();
+    // Cartesian zero.
+    void Reset() { *this = SZelCoordinateTriplet(); }
 
-    uint64_t getSize() const { return 28; }
+    // Image, 28 bytes, unaligned: type at 0 (32 bits), the coordinates at
+    // 4, 12 and 20.
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
+    {
+        return io.Raw(r.ecoordinatesystem) && io.Raw(r.dCoord1) && io.Raw(r.dCoord2) && io.Raw(r.dCoord3);
+    }
+    // Text: "CooTyp, " word ", Coo, " and the three values at 12 digits; the
+    // precision stays set on the stream. The reader's word swallows its
+    // comma, so the char read of ", Coo, " takes the first letter of the tag.
+    template <class IO, class Self> static void VisitText(IO& io, Self& r)
+    {
+        io.Tag("CooTyp, ")
+            .Word(r.ecoordinatesystem, c_aszCoordinateSystemWords, "Invalid", ZELCOORDINATESYSTEM_INVALID)
+            .Tag(", Coo, ")
+            .Precision(12)
+            .Value(r.dCoord1)
+            .Tag(", ")
+            .Value(r.dCoord2)
+            .Tag(", ")
+            .Value(r.dCoord3);
+    }
+
+    uint64_t getSize() const { return ZelIo::SizeOf(*this); }
     bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const;
     bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset);
 };
 
+// All four fields, exact: a NaN makes the triplet unequal to itself.
 ZELTYPES_API bool operator==(const SZelCoordinateTriplet& a, const SZelCoordinateTriplet& b);
-ZELTYPES_API bool operator!=(const SZelCoordinateTriplet& a, const SZelCoordinateTriplet& b);
 
 ZELTYPES_API SZelCoordinateTriplet operator+(const SZelCoordinateTriplet& a, const SZelCoordinateTriplet& b);
 ZELTYPES_API SZelCoordinateTriplet operator-(const SZelCoordinateTriplet& a, const SZelCoordinateTriplet& b);
@@ -91,7 +117,6 @@ ZELTYPES_API double Dot(const SZelCoordinateTriplet& a, const SZelCoordinateTrip
 ZELTYPES_API void Cross(const SZelCoordinateTriplet& a, const SZelCoordinateTriplet& b,
                         SZelCoordinateTriplet& rResult);
 
-// "CooTyp, " word ", Coo, " and the three values at 12 digits.
 ZELTYPES_API std::ostream& operator<<(std::ostream& os, const SZelCoordinateTriplet& rTriplet);
 ZELTYPES_API std::istream& operator>>(std::istream& is, SZelCoordinateTriplet& rTriplet);
 

@@ -8,8 +8,15 @@
 // (copy on write): a reader holding the table goes on without a lock.
 //
 // A frequency is named by its group index (0 to 6), by its group bit
-// (ToFrqGroupBit), or by its frequency slot (EZelFrequency). The bit forms
-// carry "ByBit" in their name where an index form exists beside them.
+// (ToFrqGroupBit), or by its frequency slot (EZelFrequency). GetFrequency,
+// GetWavelength and GetWavelengthBool take each of them under one name, and
+// the type of the argument alone picks the form:
+//   int, EZelFrequencyGroup  the group index
+//   uint32_t                 the group bit, as ToFrqGroupBit gives it
+//   EZelFrequency            the frequency slot
+// Any other argument type (long, 8- or 16-bit integers, bool, another
+// enumeration) is refused at compile time, since it would otherwise be
+// converted silently to one of the forms: cast it to the form meant.
 
 #include <ZelTypes/Core/Common/ZelExport.h>
 #include <ZelTypes/Core/Common/ZelGlonassFrequencies.h>
@@ -69,20 +76,37 @@ public:
     bool GetFrequencyTable(boost::shared_ptr<const CZelFrequencyTable>& rpTable) const;
 
     // --- Frequency in Hz; 0.0 when unknown.
+    // By group index.
     double GetFrequency(const SZelSatID& rSatID, int iIdx) const;
-    double GetFrequencyByBit(const SZelSatID& rSatID, uint32_t ebfFrq) const;
+    double GetFrequency(const SZelSatID& rSatID, EZelFrequencyGroup eFreqIdx) const;
+    // By group bit.
+    double GetFrequency(const SZelSatID& rSatID, uint32_t ebfFrq) const;
+    // By frequency slot.
     double GetFrequency(const SZelSatID& rSatID, EZelFrequency eZelFrq) const;
+    // Any other argument type: no form is guessed.
+    template <typename T> double GetFrequency(const SZelSatID& rSatID, T tFrq) const = delete;
     // Nominal tables; GLONASS gives the channel 0 carrier; 0.0 outside 1 to 7.
     static double GetNominalFrequency(EZelSatSystem eSys, int iIdx);
 
     // --- Wavelength in metres; 0.0 when unknown, -1.0 for an unknown system.
+    // By group index.
     double GetWavelength(const SZelSatID& rSatID, EZelFrequencyGroup eFreqIdx) const;
-    double GetWavelengthByBit(const SZelSatID& rSatID, uint32_t ebfFrq) const;
+    double GetWavelength(const SZelSatID& rSatID, int iIdx) const;
+    // By group bit.
+    double GetWavelength(const SZelSatID& rSatID, uint32_t ebfFrq) const;
+    // By frequency slot.
     double GetWavelength(const SZelSatID& rSatID, EZelFrequency eZelFrq) const;
-    // Stores the wavelength; true when it is not 0.0.
+    // Any other argument type: no form is guessed.
+    template <typename T> double GetWavelength(const SZelSatID& rSatID, T tFrq) const = delete;
+
+    // Stores the wavelength in metres; true when it is not 0.0. The forms
+    // as for GetWavelength.
     bool GetWavelengthBool(const SZelSatID& rSatID, EZelFrequencyGroup eFreqIdx, double& rdWavelength) const;
-    bool GetWavelengthBoolByBit(const SZelSatID& rSatID, uint32_t ebfFrq, double& rdWavelength) const;
+    bool GetWavelengthBool(const SZelSatID& rSatID, int iIdx, double& rdWavelength) const;
+    bool GetWavelengthBool(const SZelSatID& rSatID, uint32_t ebfFrq, double& rdWavelength) const;
     bool GetWavelengthBool(const SZelSatID& rSatID, EZelFrequency eZelFrq, double& rdWavelength) const;
+    template <typename T>
+    bool GetWavelengthBool(const SZelSatID& rSatID, T tFrq, double& rdWavelength) const = delete;
 
     // --- Ratios, by group bits.
     // f1 / f2 of the satellite; 0.0 when either is not positive.

@@ -8,7 +8,11 @@
 // outputs, and the interface through which a user of the core is told of
 // results.
 
+#include <ZelTypes/Core/Common/ZelAssert.h>
+#include <ZelTypes/Core/Common/ZelCompare.h>
 #include <ZelTypes/Core/Common/ZelExport.h>
+#include <ZelTypes/Core/Common/ZelRecordIO.h>
+#include <ZelTypes/Core/Common/ZelTimeBlockIO.h>
 #include <ZelTypes/Core/Common/ZelTypesIDs.h>
 #include <ZelTypes/Core/Common/ZelTypesObs.h>
 #include <ZelTypes/Core/Common/mjdTime.h>
@@ -16,10 +20,13 @@
 #include <boost/container/vector.hpp>
 #include <boost/unordered_map.hpp>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <istream>
 #include <ostream>
+#include <type_traits>
+#include <vector>
 
 namespace ZELN
 {
@@ -36,34 +43,73 @@ constexpr uint64_t c_ulRANGERATES_PRESIZE = 60;
 // Epoch header and epoch
 // ---------------------------------------------------------------------------
 
+// The head of an epoch. Clock offsets, rates and the smoothing length are
+// in the units the producer sets; the library never scales them.
 struct ZELTYPES_API SZelObservationEpochHeader
 {
-    uint8_t ucTag0; // identifying bytes, only carried
-    uint8_t ucTag1;
-    SMjdTime stTime;   // accuracy EXACT by default
-    uint8_t ucNumSats; // as the producer states it; not tied to the satellite vector
-    double dClockOffset;
-    double dTimeStampOffset;
-    uint32_t ulDopplerRate;
-    uint32_t ulPositionRate;
-    int32_t lSmoothingLength;
-    SMjdTime stFirstStaticMarkEpoch; // accuracy NANOSECOND by default
+    uint8_t ucTag0 = 0; // identifying bytes, only carried
+    uint8_t ucTag1 = 0;
+    SMjdTime stTime{MJDACC_EXACT}; // time of the epoch
+    uint8_t ucNumSats = 0;         // as the producer states it; not tied to the satellite vector
+    double dClockOffset = 0.0;     // receiver clock offset
+    double dTimeStampOffset = 0.0; // offset of the time stamp
+    uint32_t ulDopplerRate = 1000; // rate of the Doppler output
+    uint32_t ulPositionRate = 1000;
+    int32_t lSmoothingLength = 0;
+    SMjdTime stFirstStaticMarkEpoch{MJDACC_NANOSECOND}; // first epoch of the present static marking
 
-    SZelObservationEpochHeader() { Reset(); }
+    void Reset() { *this = SZelObservationEpochHeader(); }
 
-    void Reset();
+    // Image, 96 bytes: the memory layout, reserved bytes written as zero.
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
+    {
+        io.Raw(r.ucTag0);
+        io.Raw(r.ucTag1);
+        io.Reserved(6);
+        ZelIo::VisitTimeBlock(io, r.stTime);
+        io.Raw(r.ucNumSats);
+        io.Reserved(7);
+        io.Raw(r.dClockOffset);
+        io.Raw(r.dTimeStampOffset);
+        io.Raw(r.ulDopplerRate);
+        io.Raw(r.ulPositionRate);
+        io.Raw(r.lSmoothingLength);
+        io.Reserved(4);
+        return ZelIo::VisitTimeBlock(io, r.stFirstStaticMarkEpoch);
+    }
 
-    uint64_t getSize() const { return c_ulOBSEPOCH_HEADER_SIZE; }
-    bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const;
-    bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset);
+    // Text: the two tags and stTime (week, milliseconds of week) carry no
+    // tag; stFirstStaticMarkEpoch is in week and seconds of week. The time
+    // readers give the default time for a week from 5966 on or a time of
+    // week out of range, without a report.
+    template <class IO, class Self> static void VisitText(IO& io, Self& r)
+    {
+        io.template Wide<uint32_t>(r.ucTag0).Tag(", ").template Wide<uint32_t>(r.ucTag1).Tag(", ");
+        io.Form(r.stTime, MJDTXT_GPS_MILLISECONDS);
+        io.Tag(", NumSats, ").template Wide<uint32_t>(r.ucNumSats);
+        io.Tag(", ClkOffs, ").Value(r.dClockOffset).Tag(", TimeStampOffs, ").Value(r.dTimeStampOffset);
+        io.Tag(", DoppRate, ").Value(r.ulDopplerRate).Tag(", PosRate, ").Value(r.ulPositionRate);
+        io.Tag(", SmooLgth, ").Value(r.lSmoothingLength);
+        io.Tag(", 1stStatMrkEpoch, ").Form(r.stFirstStaticMarkEpoch, MJDTXT_GPS_SECONDS);
+    }
+
+    uint64_t getSize() const { return ZelIo::SizeOf(*this); }
+    bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const
+    {
+        return ZelIo::SaveLeaf(*this, pBuffer, uiBufferLength, pulOffset);
+    }
+    bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset)
+    {
+        return ZelIo::LoadLeaf(*this, pBuffer, uiBufferLength, pulOffset);
+    }
 
     // Times compare with the tolerance of each side, in both directions.
     bool operator==(const SZelObservationEpochHeader& rhs) const;
-    bool operator!=(const SZelObservationEpochHeader& rhs) const { return !(*this == rhs); }
 };
 
 typedef boost::container::vector<SZelSatObservation> ZelSatObsVector;
 
+// One epoch: the header and one record per satellite.
 struct ZELTYPES_API SZelObservationEpoch
 {
     SZelObservationEpochHeader stZelObservationEpochHeader;
@@ -79,14 +125,33 @@ struct ZELTYPES_API SZelObservationEpoch
     // Empties the vector, keeping its allocation, and resets the header.
     void Reset();
 
-    uint64_t getSize() const;
+    // Image: the header at 0, the satellite count at 96, the satellites from
+    // 100. A failing header or satellite is reported here as well.
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
+    {
+        return io.Record(r.stZelObservationEpochHeader, true) && io.Sequence(r.vecSatObs, true);
+    }
+
+    // Text: the header, ", NumSats, " and the true count, then the
+    // satellites; so ", NumSats, " stands twice in the line. The reader
+    // sizes the vector from this second count.
+    template <class IO, class Self> static void VisitText(IO& io, Self& r)
+    {
+        if constexpr (!IO::c_bReading)
+        {
+            // The writer's check of a count beyond the 32 bits of the images.
+            ZEL_ASSERT_TEXT(r.vecSatObs.size() < 0xFFFFFFFFu, "false");
+        }
+        io.Value(r.stZelObservationEpochHeader).Sequence(r.vecSatObs, ", NumSats, ");
+    }
+
+    uint64_t getSize() const { return ZelIo::SizeOf(*this); }
     bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const;
     // The first bounds test looks at the present content of the record.
     bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset);
 
     // Satellites compare pairwise in vector order.
     bool operator==(const SZelObservationEpoch& rhs) const;
-    bool operator!=(const SZelObservationEpoch& rhs) const { return !(*this == rhs); }
 };
 
 // ---------------------------------------------------------------------------
@@ -105,20 +170,47 @@ enum EZelCorrType : int32_t
 
 constexpr int32_t c_lNB_CORRTYPES = 6;
 
+// The key of the corrections map.
 struct ZELTYPES_API SZelCorrectionKey
 {
     SZelSatID stSatId;
-    EZelFrequency eFrequency;
-    bool bTrackModeY;
-    EZelCorrType eCorrType;
+    EZelFrequency eFrequency = ZELFREQUENCY_UNKNOWN;
+    bool bTrackModeY = false;
+    EZelCorrType eCorrType = ZELCORRTYPE_INV;
 
-    SZelCorrectionKey()
-        : stSatId(), eFrequency(ZELFREQUENCY_UNKNOWN), bTrackModeY(false), eCorrType(ZELCORRTYPE_INV)
-    {
-    }
+    SZelCorrectionKey() = default;
     SZelCorrectionKey(EZelCorrType eType, const SZelSatID& rstSatId, EZelFrequency eFrq, bool bModeY)
         : stSatId(rstSatId), eFrequency(eFrq), bTrackModeY(bModeY), eCorrType(eType)
     {
+    }
+
+    // Image, 20 bytes before the value of its entry: satellite (8),
+    // frequency at 8, track mode Y at 12 with three reserved bytes, type at 16.
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
+    {
+        io.Inline(r.stSatId);
+        io.Raw(r.eFrequency);
+        io.Raw(r.bTrackModeY);
+        io.Reserved(3);
+        return io.Raw(r.eCorrType);
+    }
+
+    // Text; the type's reader takes the comma behind its three letters.
+    template <class IO, class Self> static void VisitText(IO& io, Self& r)
+    {
+        io.Tag("SatId, ").Value(r.stSatId).Tag(", Frq, ").template Wide<int32_t>(r.eFrequency);
+        io.Tag(", TrckModY, ");
+        // The bool goes out through the stream's bool insertion and comes
+        // back through a 32-bit number, any value but 0 being true.
+        if constexpr (IO::c_bReading)
+        {
+            io.template Wide<int32_t>(r.bTrackModeY);
+        }
+        else
+        {
+            io.Value(r.bTrackModeY);
+        }
+        io.Tag(", CorrTyp, ").Value(r.eCorrType);
     }
 
     // System and number, then frequency, track mode Y and type.
@@ -128,7 +220,6 @@ struct ZELTYPES_API SZelCorrectionKey
                stSatId.uiSatNumber == rhs.stSatId.uiSatNumber && eFrequency == rhs.eFrequency &&
                bTrackModeY == rhs.bTrackModeY && eCorrType == rhs.eCorrType;
     }
-    bool operator!=(const SZelCorrectionKey& rhs) const { return !(*this == rhs); }
 
     // Type, frequency, track mode Y, then the satellite.
     bool operator<(const SZelCorrectionKey& rhs) const;
@@ -158,17 +249,19 @@ struct SZelSatIDHash
 typedef boost::unordered_map<SZelCorrectionKey, double, SZelCorrectionKeyHash> ZelCorrectionMap;
 typedef boost::unordered_map<SZelSatID, double, SZelSatIDHash> ZelRangeRateMap;
 
-// What the measurement engine hands out per epoch.
+// What the measurement engine hands out per epoch. The clock, the
+// corrections and the range rates are in the units the engine sets; the
+// library never scales them.
 struct ZELTYPES_API SZelRtmeOutEpochData
 {
     static constexpr uint32_t NB_STATION_SYSTEMS = 4;
     static constexpr uint32_t NB_SAT_SYSTEM_COUNTERS = 9; // by EZelSatSystem, 0 to 8
 
     SZelObservationEpoch stObs;
-    int32_t alStationsUsed[NB_STATION_SYSTEMS]; // GPS, GLONASS, BeiDou, Galileo
-    double dClock;
-    ZelCorrectionMap mapCorrections;
-    ZelRangeRateMap mapRangeRates;
+    int32_t alStationsUsed[NB_STATION_SYSTEMS] = {}; // reference stations used: GPS, GLONASS, BeiDou, Galileo
+    double dClock = 0.0;
+    ZelCorrectionMap mapCorrections; // maximum load factor 1.0
+    ZelRangeRateMap mapRangeRates;   // maximum load factor 1.0
 
     SZelRtmeOutEpochData();
     // A copy is sized for c_ulCORRECTIONS_PRESIZE corrections and
@@ -202,14 +295,89 @@ struct ZELTYPES_API SZelRtmeOutEpochData
     ZelRangeRateMap& GetRangeRates() { return mapRangeRates; }
     const ZelRangeRateMap& GetRangeRates() const { return mapRangeRates; }
 
-    uint64_t getSize() const;
-    bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const;
+    // Image: the epoch, the four station counts, the clock, then each map
+    // as its count and its entries in the map's iteration order: a
+    // correction takes 28 bytes (key, value at 20, unaligned), a range rate
+    // 16 (satellite, value). The reader adds to the maps. A failing epoch is
+    // reported here by the writer only.
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
+    {
+        return io.Record(r.stObs) && io.Raw(r.alStationsUsed) && io.Raw(r.dClock) &&
+               io.Map(r.mapCorrections) && io.Map(r.mapRangeRates);
+    }
+
+    // Text: the epoch, the station counts, the clock, then each map as its
+    // size and ", " key ", " value per entry.
+    template <class IO, class Self> static void VisitText(IO& io, Self& r)
+    {
+        io.Tag("Obs, ").Value(r.stObs);
+        io.Tag(", StnUsdG, ").Value(r.alStationsUsed[0]).Tag(", StnUsdR, ").Value(r.alStationsUsed[1]);
+        io.Tag(", StnUsdC, ").Value(r.alStationsUsed[2]).Tag(", StnUsdE, ").Value(r.alStationsUsed[3]);
+        io.Tag(", Clk, ").Value(r.dClock);
+        MapText(io, r.mapCorrections, ", Corrs, ");
+        MapText(io, r.mapRangeRates, ", RngRates, ");
+    }
+
+    uint64_t getSize() const { return ZelIo::SizeOf(*this); }
+    bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const
+    {
+        return ZelIo::SaveLeaf(*this, pBuffer, uiBufferLength, pulOffset);
+    }
     // Adds to the maps without clearing them: load into a reset record.
-    bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset);
+    bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset)
+    {
+        return ZelIo::LoadLeaf(*this, pBuffer, uiBufferLength, pulOffset);
+    }
 
     // Maps compare by content, in any order.
     bool operator==(const SZelRtmeOutEpochData& rhs) const;
-    bool operator!=(const SZelRtmeOutEpochData& rhs) const { return !(*this == rhs); }
+
+private:
+    // The two directions differ for a map: the writer puts the entries in
+    // the order of their keys, so that equal records give equal lines; the
+    // reader adds them as they come, while the stream is good. The reader
+    // of a correction key takes the comma behind it, a satellite's does not.
+    template <class IO, class TMap> static void MapText(IO& io, TMap& rMap, const char* szCountTag)
+    {
+        using TKey = typename std::remove_const<TMap>::type::key_type;
+        if constexpr (IO::c_bReading)
+        {
+            uint32_t ulCount = 0;
+            io.Tag(szCountTag).Value(ulCount);
+            for (uint32_t ulIdx = 0; ulIdx < ulCount && io.Stream(); ++ulIdx)
+            {
+                TKey tKey;
+                double dValue = 0.0;
+                io.Tag(", ").Value(tKey);
+                if constexpr (std::is_same<TKey, SZelSatID>::value)
+                {
+                    io.Tag(", ");
+                }
+                io.Value(dValue);
+                if (io.Stream())
+                {
+                    rMap[tKey] = dValue;
+                }
+            }
+        }
+        else
+        {
+            std::vector<const typename TMap::value_type*> vecEntries;
+            vecEntries.reserve(rMap.size());
+            for (const auto& rEntry : rMap)
+            {
+                vecEntries.push_back(&rEntry);
+            }
+            std::sort(vecEntries.begin(), vecEntries.end(),
+                      [](const typename TMap::value_type* pA, const typename TMap::value_type* pB)
+                      { return pA->first < pB->first; });
+            io.Tag(szCountTag).Value(rMap.size());
+            for (const auto* pEntry : vecEntries)
+            {
+                io.Tag(", ").Value(pEntry->first).Tag(", ").Value(pEntry->second);
+            }
+        }
+    }
 };
 
 typedef boost::container::vector<SZelRtmeOutEpochData> ZelRtmeOutEpochVector;
@@ -217,23 +385,30 @@ typedef boost::container::vector<SZelRtmeOutEpochData> ZelRtmeOutEpochVector;
 // A batch of output epochs.
 struct ZELTYPES_API SZelOutObservations
 {
-    uint32_t ulValue0; // only carried
-    uint32_t ulValue1;
+    uint32_t ulValue0 = 0; // only carried
+    uint32_t ulValue1 = 0; // only carried
     ZelRtmeOutEpochVector vecEpochs;
 
-    SZelOutObservations() : ulValue0(0), ulValue1(0) {}
+    SZelOutObservations() = default;
     SZelOutObservations(const SZelOutObservations&) = default;
     SZelOutObservations(SZelOutObservations&&) = default;
     SZelOutObservations& operator=(const SZelOutObservations&) = default;
     SZelOutObservations& operator=(SZelOutObservations&&) = default;
     virtual ~SZelOutObservations();
 
-    uint64_t getSize() const;
+    // Image: ulValue0 at 0, ulValue1 at 4, the count at 8, the records from
+    // 12. A failing record is not reported at this level.
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
+    {
+        return io.Raw(r.ulValue0) && io.Raw(r.ulValue1) && io.Sequence(r.vecEpochs, false);
+    }
+
+    uint64_t getSize() const { return ZelIo::SizeOf(*this); }
+    // The bytes used are reported for a whole batch only: 0 when a record fails.
     bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const;
     bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset);
 
     bool operator==(const SZelOutObservations& rhs) const;
-    bool operator!=(const SZelOutObservations& rhs) const { return !(*this == rhs); }
 };
 
 // Implemented by the users of the core; the library never calls it.

@@ -77,8 +77,7 @@ struct ZELTYPES_API SSysInfo
 
     SSysInfo();
     SSysInfo(EZelSatSystem eSysID, uint8_t uiMaxSysSatNb, EZelSatSystem eBaseSysID, uint8_t uiMaxBaseSatNb,
-             const SFrqInfo* astFrqs, uint64_t _ulFrqIdxMax, const SDefFrqRow* astDefRows,
-             uint64_t ulNbDefRows);
+             const SFrqInfo* astFrqs, uint64_t ulNbFrqs, const SDefFrqRow* astDefRows, uint64_t ulNbDefRows);
 
     uint64_t GetNbFrqs() const;
     const SFrqInfo* GetFrqByGroup(EZelFrequencyGroup eFrqGrp) const;
@@ -116,7 +115,7 @@ ZELTYPES_API bool ReadFrqName(std::istream& is, char (&szBuffer)[ulSZFRQ_MAXLGTH
 namespace ObsInfoDetail
 {
 // The checks that tie the rows of all systems together (index by system).
-ZELTYPES_API void CheckSysTable(const SSysInfo* ast_Sys_Info);
+ZELTYPES_API void CheckSysTable(const SSysInfo* astSysInfo);
 } // namespace ObsInfoDetail
 
 } // namespace ZELN

@@ -17,19 +17,14 @@ namespace ZelIo
 
 constexpr uint64_t c_ulTIME_BLOCK_SIZE = 24;
 
-inline void WriteTimeBlock(CBinWriter& stOut, const SMjdTime& rstTime)
+// The time block as one step of a record's VisitFields, for every direction.
+template <class IO, class T> inline bool VisitTimeBlock(IO& io, T& rstTime)
 {
-    stOut.Raw(rstTime.m_lMjdDay);
-    stOut.Fill(4);
-    stOut.Raw(rstTime.m_dMjdFractMilliseconds);
-    stOut.RawAs<int32_t>(rstTime.m_eAccuracy);
-    stOut.Fill(4);
-}
-
-inline bool ReadTimeBlock(CBinReader& stIn, SMjdTime& rstTime)
-{
-    return stIn.Raw(rstTime.m_lMjdDay) && stIn.Skip(4) && stIn.Raw(rstTime.m_dMjdFractMilliseconds) &&
-           stIn.Raw(rstTime.m_eAccuracy) && stIn.Skip(4);
+    io.Raw(rstTime.m_lMjdDay);
+    io.Reserved(4);
+    io.Raw(rstTime.m_dMjdFractMilliseconds);
+    io.template RawAs<int32_t>(rstTime.m_eAccuracy);
+    return io.Reserved(4);
 }
 
 } // namespace ZelIo

@@ -8,6 +8,7 @@
 // catalogue (ZelObsInfo.h).
 
 #include <ZelTypes/Core/Common/ZelAssert.h>
+#include <ZelTypes/Core/Common/ZelCompare.h>
 #include <ZelTypes/Core/Common/ZelExport.h>
 #include <ZelTypes/Core/Common/ZelRecordIO.h>
 
@@ -220,10 +221,10 @@ ZELTYPES_API SZelSatID FromGlobalSatNumber(uint8_t uiGlobal);
 
 struct ZELTYPES_API SZelSatID
 {
-    EZelSatSystem eSatSystem;
-    uint8_t uiSatNumber; // relative to the system
+    EZelSatSystem eSatSystem = ZELSATSYSTEM_NONE;
+    uint8_t uiSatNumber = 0; // relative to the system
 
-    SZelSatID() : eSatSystem(ZELSATSYSTEM_NONE), uiSatNumber(0) {}
+    SZelSatID() = default;
     SZelSatID(EZelSatSystem eSys, uint8_t uiNumber) : eSatSystem(eSys), uiSatNumber(uiNumber) {}
 
     bool isValid() const { return uiSatNumber != 0 && uiSatNumber <= GetMaxSatNumber(eSatSystem); }
@@ -245,16 +246,15 @@ struct ZELTYPES_API SZelSatID
     bool IsIgso() const;
     bool IsGeoOrIgso() const { return IsGeo() || IsIgso(); }
 
-    // System in 4 bytes, number in 1, then 3 filling bytes: written as zero,
-    // passed over by the reader.
-    uint64_t getSize() const { return 8; }
+    // Image, 8 bytes: system at 0 (32 bits), number at 4, then 3 filling
+    // bytes, written as zero and passed over by the reader. Also the image
+    // of a satellite as a map key.
     template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
     {
-        io.Raw(r.eSatSystem);
-        io.Raw(r.uiSatNumber);
-        io.Reserved(3);
-        return true;
+        return io.Raw(r.eSatSystem) && io.Raw(r.uiSatNumber) && io.Reserved(3);
     }
+
+    uint64_t getSize() const { return ZelIo::SizeOf(*this); }
     bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const
     {
         return ZelIo::SaveLeaf(*this, pBuffer, uiBufferLength, pulOffset);
@@ -269,10 +269,7 @@ inline bool operator==(const SZelSatID& a, const SZelSatID& b)
 {
     return a.eSatSystem == b.eSatSystem && a.uiSatNumber == b.uiSatNumber;
 }
-inline bool operator!=(const SZelSatID& a, const SZelSatID& b)
-{
-    return !(a == b);
-}
+// The system as a signed number, then the number.
 inline bool operator<(const SZelSatID& a, const SZelSatID& b)
 {
     if (static_cast<int>(a.eSatSystem) != static_cast<int>(b.eSatSystem))
@@ -285,10 +282,10 @@ inline bool operator<(const SZelSatID& a, const SZelSatID& b)
 // A frequency group and a tracking mode.
 struct ZELTYPES_API SZelFrqTMdID
 {
-    EZelFrequencyGroup eFrqGrp;
-    EZelTrackMode eTrackMode;
+    EZelFrequencyGroup eFrqGrp = ZELFREQUENCY_GROUP_NONE;
+    EZelTrackMode eTrackMode = ZELTRACKMODE_UNKNOWN;
 
-    SZelFrqTMdID() : eFrqGrp(ZELFREQUENCY_GROUP_NONE), eTrackMode(ZELTRACKMODE_UNKNOWN) {}
+    SZelFrqTMdID() = default;
     SZelFrqTMdID(EZelFrequencyGroup eGrp, EZelTrackMode eMode) : eFrqGrp(eGrp), eTrackMode(eMode) {}
 
     bool isValid() const
@@ -297,13 +294,13 @@ struct ZELTYPES_API SZelFrqTMdID
                eTrackMode <= ZELTRACKMODE_Z;
     }
 
-    uint64_t getSize() const { return 8; }
+    // Image, 8 bytes: group at 0, mode at 4, 32 bits each.
     template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
     {
-        io.Raw(r.eFrqGrp);
-        io.Raw(r.eTrackMode);
-        return true;
+        return io.Raw(r.eFrqGrp) && io.Raw(r.eTrackMode);
     }
+
+    uint64_t getSize() const { return ZelIo::SizeOf(*this); }
     bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const
     {
         return ZelIo::SaveLeaf(*this, pBuffer, uiBufferLength, pulOffset);
@@ -318,10 +315,6 @@ inline bool operator==(const SZelFrqTMdID& a, const SZelFrqTMdID& b)
 {
     return a.eFrqGrp == b.eFrqGrp && a.eTrackMode == b.eTrackMode;
 }
-inline bool operator!=(const SZelFrqTMdID& a, const SZelFrqTMdID& b)
-{
-    return !(a == b);
-}
 inline bool operator<(const SZelFrqTMdID& a, const SZelFrqTMdID& b)
 {
     if (a.eFrqGrp != b.eFrqGrp)
@@ -335,23 +328,21 @@ inline bool operator<(const SZelFrqTMdID& a, const SZelFrqTMdID& b)
 struct ZELTYPES_API SZelSatFrqID
 {
     SZelSatID stSatID;
-    EZelFrequencyGroup eFrqGrp;
+    EZelFrequencyGroup eFrqGrp = ZELFREQUENCY_GROUP_NONE;
 
-    SZelSatFrqID() : stSatID(), eFrqGrp(ZELFREQUENCY_GROUP_NONE) {}
+    SZelSatFrqID() = default;
     SZelSatFrqID(const SZelSatID& rSatID, EZelFrequencyGroup eGrp) : stSatID(rSatID), eFrqGrp(eGrp) {}
 
     bool isValid() const { return stSatID.isValid() && eFrqGrp != ZELFREQUENCY_GROUP_NONE; }
 
-    uint64_t getSize() const { return 12; }
+    // Image, 12 bytes: the satellite's 8 at 0 through its own test, the
+    // group at 8.
     template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
     {
-        if (!io.Record(r.stSatID))
-        {
-            return false;
-        }
-        io.Raw(r.eFrqGrp);
-        return true;
+        return io.Record(r.stSatID) && io.Raw(r.eFrqGrp);
     }
+
+    uint64_t getSize() const { return ZelIo::SizeOf(*this); }
     bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const
     {
         return ZelIo::SaveFixed(*this, pBuffer, uiBufferLength, pulOffset);
@@ -366,10 +357,6 @@ inline bool operator==(const SZelSatFrqID& a, const SZelSatFrqID& b)
 {
     return a.stSatID == b.stSatID && a.eFrqGrp == b.eFrqGrp;
 }
-inline bool operator!=(const SZelSatFrqID& a, const SZelSatFrqID& b)
-{
-    return !(a == b);
-}
 inline bool operator<(const SZelSatFrqID& a, const SZelSatFrqID& b)
 {
     if (a.stSatID != b.stSatID)
@@ -382,10 +369,10 @@ inline bool operator<(const SZelSatFrqID& a, const SZelSatFrqID& b)
 // A system and a frequency group.
 struct ZELTYPES_API SZelSysFrqID
 {
-    EZelSatSystem eSatSystem;
-    EZelFrequencyGroup eFrqGrp;
+    EZelSatSystem eSatSystem = ZELSATSYSTEM_NONE;
+    EZelFrequencyGroup eFrqGrp = ZELFREQUENCY_GROUP_NONE;
 
-    SZelSysFrqID() : eSatSystem(ZELSATSYSTEM_NONE), eFrqGrp(ZELFREQUENCY_GROUP_NONE) {}
+    SZelSysFrqID() = default;
     SZelSysFrqID(EZelSatSystem eSys, EZelFrequencyGroup eGrp) : eSatSystem(eSys), eFrqGrp(eGrp) {}
 
     bool isValid() const
@@ -394,13 +381,13 @@ struct ZELTYPES_API SZelSysFrqID
                eFrqGrp != ZELFREQUENCY_GROUP_NONE;
     }
 
-    uint64_t getSize() const { return 8; }
+    // Image, 8 bytes: system at 0, group at 4, 32 bits each.
     template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
     {
-        io.Raw(r.eSatSystem);
-        io.Raw(r.eFrqGrp);
-        return true;
+        return io.Raw(r.eSatSystem) && io.Raw(r.eFrqGrp);
     }
+
+    uint64_t getSize() const { return ZelIo::SizeOf(*this); }
     bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const
     {
         return ZelIo::SaveLeaf(*this, pBuffer, uiBufferLength, pulOffset);
@@ -415,10 +402,6 @@ inline bool operator==(const SZelSysFrqID& a, const SZelSysFrqID& b)
 {
     return a.eSatSystem == b.eSatSystem && a.eFrqGrp == b.eFrqGrp;
 }
-inline bool operator!=(const SZelSysFrqID& a, const SZelSysFrqID& b)
-{
-    return !(a == b);
-}
 inline bool operator<(const SZelSysFrqID& a, const SZelSysFrqID& b)
 {
     if (a.eSatSystem != b.eSatSystem)
@@ -431,11 +414,11 @@ inline bool operator<(const SZelSysFrqID& a, const SZelSysFrqID& b)
 // A system, a frequency group and a set of tracking modes.
 struct ZELTYPES_API SZelSysFrqTMdGroupID
 {
-    EZelSatSystem eSatSystem;
-    EZelFrequencyGroup eFrqGrp;
-    uint32_t ebfTMdGrps; // bit n-1 for track mode n
+    EZelSatSystem eSatSystem = ZELSATSYSTEM_NONE;
+    EZelFrequencyGroup eFrqGrp = ZELFREQUENCY_GROUP_NONE;
+    uint32_t ebfTMdGrps = 0; // bit n-1 for track mode n
 
-    SZelSysFrqTMdGroupID() : eSatSystem(ZELSATSYSTEM_NONE), eFrqGrp(ZELFREQUENCY_GROUP_NONE), ebfTMdGrps(0) {}
+    SZelSysFrqTMdGroupID() = default;
     SZelSysFrqTMdGroupID(EZelSatSystem eSys, EZelFrequencyGroup eGrp, uint32_t ebfGroups)
         : eSatSystem(eSys), eFrqGrp(eGrp), ebfTMdGrps(ebfGroups)
     {
@@ -445,14 +428,13 @@ struct ZELTYPES_API SZelSysFrqTMdGroupID
     // group's set.
     bool isValid() const;
 
-    uint64_t getSize() const { return 12; }
+    // Image, 12 bytes: system at 0, group at 4, mode bits at 8, 32 bits each.
     template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
     {
-        io.Raw(r.eSatSystem);
-        io.Raw(r.eFrqGrp);
-        io.Raw(r.ebfTMdGrps);
-        return true;
+        return io.Raw(r.eSatSystem) && io.Raw(r.eFrqGrp) && io.Raw(r.ebfTMdGrps);
     }
+
+    uint64_t getSize() const { return ZelIo::SizeOf(*this); }
     bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const
     {
         return ZelIo::SaveLeaf(*this, pBuffer, uiBufferLength, pulOffset);
@@ -466,10 +448,6 @@ struct ZELTYPES_API SZelSysFrqTMdGroupID
 inline bool operator==(const SZelSysFrqTMdGroupID& a, const SZelSysFrqTMdGroupID& b)
 {
     return a.eSatSystem == b.eSatSystem && a.eFrqGrp == b.eFrqGrp && a.ebfTMdGrps == b.ebfTMdGrps;
-}
-inline bool operator!=(const SZelSysFrqTMdGroupID& a, const SZelSysFrqTMdGroupID& b)
-{
-    return !(a == b);
 }
 inline bool operator<(const SZelSysFrqTMdGroupID& a, const SZelSysFrqTMdGroupID& b)
 {
@@ -489,10 +467,10 @@ inline bool operator<(const SZelSysFrqTMdGroupID& a, const SZelSysFrqTMdGroupID&
 struct ZELTYPES_API SZelSatFrqTMdGroupID
 {
     SZelSatID stSatID;
-    EZelFrequencyGroup eFrqGrp;
-    uint32_t ebfTMdGrps; // bit n-1 for track mode n
+    EZelFrequencyGroup eFrqGrp = ZELFREQUENCY_GROUP_NONE;
+    uint32_t ebfTMdGrps = 0; // bit n-1 for track mode n
 
-    SZelSatFrqTMdGroupID() : stSatID(), eFrqGrp(ZELFREQUENCY_GROUP_NONE), ebfTMdGrps(0) {}
+    SZelSatFrqTMdGroupID() = default;
     SZelSatFrqTMdGroupID(const SZelSatID& rSatID, EZelFrequencyGroup eGrp, uint32_t ebfGroups)
         : stSatID(rSatID), eFrqGrp(eGrp), ebfTMdGrps(ebfGroups)
     {
@@ -514,17 +492,14 @@ struct ZELTYPES_API SZelSatFrqTMdGroupID
     // narrowed to one: a line on the standard output, "false", and 0.
     EZelTrackMode ToTrackMode() const;
 
-    uint64_t getSize() const { return 16; }
+    // Image, 16 bytes: the satellite's 8 at 0 through its own test, the
+    // group at 8, the mode bits at 12.
     template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
     {
-        if (!io.Record(r.stSatID))
-        {
-            return false;
-        }
-        io.Raw(r.eFrqGrp);
-        io.Raw(r.ebfTMdGrps);
-        return true;
+        return io.Record(r.stSatID) && io.Raw(r.eFrqGrp) && io.Raw(r.ebfTMdGrps);
     }
+
+    uint64_t getSize() const { return ZelIo::SizeOf(*this); }
     bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const
     {
         return ZelIo::SaveFixed(*this, pBuffer, uiBufferLength, pulOffset);
@@ -538,10 +513,6 @@ struct ZELTYPES_API SZelSatFrqTMdGroupID
 inline bool operator==(const SZelSatFrqTMdGroupID& a, const SZelSatFrqTMdGroupID& b)
 {
     return a.stSatID == b.stSatID && a.eFrqGrp == b.eFrqGrp && a.ebfTMdGrps == b.ebfTMdGrps;
-}
-inline bool operator!=(const SZelSatFrqTMdGroupID& a, const SZelSatFrqTMdGroupID& b)
-{
-    return !(a == b);
 }
 inline bool operator<(const SZelSatFrqTMdGroupID& a, const SZelSatFrqTMdGroupID& b)
 {
@@ -558,6 +529,12 @@ inline bool operator<(const SZelSatFrqTMdGroupID& a, const SZelSatFrqTMdGroupID&
 
 // ---------------------------------------------------------------------------
 // Text forms
+//
+// Written by hand, not as tag lines: the two directions of an identifier
+// differ. The writer pads the number to two digits and names a group from
+// the catalogue ("iv" where it has none); the reader takes a letter and any
+// integer, peeks a name of up to 4 characters and looks it up, checks the
+// system, and ends a set of letters at the first character that is none.
 // ---------------------------------------------------------------------------
 
 // A system is its letter; read as one char (unknown letter: "false", 9).

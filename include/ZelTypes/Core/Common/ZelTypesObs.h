@@ -7,9 +7,13 @@
 // and trivially copyable, so that an epoch can keep them in one contiguous
 // array and move them with block copies.
 
+#include <ZelTypes/Core/Common/ZelAssert.h>
+#include <ZelTypes/Core/Common/ZelCompare.h>
 #include <ZelTypes/Core/Common/ZelExport.h>
+#include <ZelTypes/Core/Common/ZelRecordIO.h>
 #include <ZelTypes/Core/Common/ZelTypesIDs.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <istream>
 #include <ostream>
@@ -39,42 +43,68 @@ constexpr uint32_t c_ulOBSFLAG_SBAS = 0x40000;       // set by SZelSatObservatio
 constexpr uint64_t c_ulFREQOBS_SIZE = 72;
 constexpr uint64_t c_ulSATOBS_HEAD_SIZE = 15;
 
-// The observation of one signal.
+// The observation of one signal. The units of the measurements are set by
+// the producing module; this library carries them and never scales them.
 struct ZELTYPES_API SZelFreqObservation
 {
-    uint32_t ulObsFlags;
-    EZelFrequency eFrequency;
-    EZelTrackMode eTrackMode; // 0: the default of the system and signal applies
-    double dPhase;
-    double dCode;
-    double dDopplerM;
-    double dDopplerC;
-    uint16_t unContMeasCount10Msec; // continuous tracking, in units of 10 ms
-    uint16_t unCNo;
-    uint16_t unPhaseRms100thMm;
-    uint16_t unRangeRmsMm;
-    int16_t nTimeOffsetRTCM9;
-    float fVelocity;
-    float fAcceleration;
+    uint32_t ulObsFlags = 0;                         // validity and state bits, c_ulOBSFLAG_...
+    EZelFrequency eFrequency = ZELFREQUENCY_UNKNOWN; // frequency slot, 1 to 10 when filled
+    EZelTrackMode eTrackMode = ZELTRACKMODE_UNKNOWN; // 0: the default of the system and signal applies
+    double dPhase = 0.0;                             // carrier phase, unit set by the producer
+    double dCode = 0.0;                              // code range, unit set by the producer
+    double dDopplerM = 0.0;                          // Doppler, first form, unit set by the producer
+    double dDopplerC = 0.0;                          // Doppler, second form, unit set by the producer
+    uint16_t unContMeasCount10Msec = 0;              // continuous tracking, in units of 10 ms
+    uint16_t unCNo = 0;                              // carrier-to-noise, unit set by the producer
+    uint16_t unPhaseRms100thMm = 0;                  // phase RMS, in 0.01 mm
+    uint16_t unRangeRmsMm = 0;                       // code RMS, in mm
+    int16_t nTimeOffsetRTCM9 = 0;                    // time offset of RTCM 9 data, unit set by the producer
+    float fVelocity = 0.0f;                          // velocity term, unit set by the producer
+    float fAcceleration = 0.0f;                      // acceleration term, unit set by the producer
 
-    SZelFreqObservation() { Reset(); }
+    void Reset() { *this = SZelFreqObservation(); }
 
-    void Reset()
+    // Image, 72 bytes: the memory layout, in three runs of fields; the
+    // reserved bytes between them (12 to 16, 58 to 60, 68 to 72) are written
+    // as zero and passed over on reading.
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
     {
-        ulObsFlags = 0;
-        eFrequency = ZELFREQUENCY_UNKNOWN;
-        eTrackMode = ZELTRACKMODE_UNKNOWN;
-        dPhase = 0.0;
-        dCode = 0.0;
-        dDopplerM = 0.0;
-        dDopplerC = 0.0;
-        unContMeasCount10Msec = 0;
-        unCNo = 0;
-        unPhaseRms100thMm = 0;
-        unRangeRmsMm = 0;
-        nTimeOffsetRTCM9 = 0;
-        fVelocity = 0.0f;
-        fAcceleration = 0.0f;
+        io.Bytes(&r.ulObsFlags, 12); // ulObsFlags, eFrequency, eTrackMode
+        io.Reserved(4);
+        io.Bytes(&r.dPhase, 42); // dPhase to nTimeOffsetRTCM9
+        io.Reserved(2);
+        io.Bytes(&r.fVelocity, 8); // fVelocity, fAcceleration
+        return io.Reserved(4);
+    }
+
+    // Text: each value behind its tag, the track mode as its letter.
+    template <class IO, class Self> static void VisitText(IO& io, Self& r)
+    {
+        io.Tag("Flgs, ").Value(r.ulObsFlags).Tag(", Frq, ").template Wide<int32_t>(r.eFrequency);
+        io.Tag(", TrkMode, ");
+        // The two directions differ here: the writer puts the letter, the
+        // reader takes one char, where an unknown letter gives 0 without a
+        // report and a failed read keeps the mode.
+        if constexpr (IO::c_bReading)
+        {
+            char cLetter = 0;
+            if (io.Stream() >> cLetter)
+            {
+                r.eTrackMode = TrackModeOfLetter(cLetter);
+            }
+        }
+        else
+        {
+            io.Stream() << ToTrackModeLetter(r.eTrackMode);
+        }
+        io.Tag(", Phs, ").Value(r.dPhase).Tag(", Cod, ").Value(r.dCode);
+        io.Tag(", DoppM, ").Value(r.dDopplerM).Tag(", DoppC, ").Value(r.dDopplerC);
+        io.Tag(", ContMeas, ").template Wide<uint32_t>(r.unContMeasCount10Msec);
+        io.Tag(", CNo, ").template Wide<uint32_t>(r.unCNo);
+        io.Tag(", PhsRms, ").template Wide<uint32_t>(r.unPhaseRms100thMm);
+        io.Tag(", CodRms, ").template Wide<uint32_t>(r.unRangeRmsMm);
+        io.Tag(", TimOffs, ").template Wide<int32_t>(r.nTimeOffsetRTCM9);
+        io.Tag(", Vel, ").Value(r.fVelocity).Tag(", Acc, ").Value(r.fAcceleration);
     }
 
     // ---------------------------------------------------------------- flag tests and setters
@@ -135,9 +165,11 @@ struct ZELTYPES_API SZelFreqObservation
     // A field whose validity bit is clear takes no part; the secondary
     // values are only reported when they differ.
     bool operator==(const SZelFreqObservation& rhs) const;
-    bool operator!=(const SZelFreqObservation& rhs) const { return !(*this == rhs); }
 
 private:
+    // The mode of a letter of the text form; 0 for an unknown one, silently.
+    static EZelTrackMode TrackModeOfLetter(char cLetter);
+
     uint32_t LowFlags() const { return ulObsFlags & 0xFFFFu; }
     void SetFlag(uint32_t ulMask, bool bSet)
     {
@@ -158,27 +190,13 @@ struct ZELTYPES_API SZelSatObservation
     static constexpr uint32_t MAX_FREQUENCIESOBSERVED = 6;
 
     SZelSatID stSatId;
-    uint32_t ulIOD; // 0xFFFFFFFF and 0xFFFFFFFE: none
-    uint8_t ucSatFlags;
-    uint8_t ucChannel;
-    uint8_t uiNumFreq; // filled records of astFreqObs
+    uint32_t ulIOD = 0xFFFFFFFFu; // issue of data of the orbit; 0xFFFFFFFF and 0xFFFFFFFE: none
+    uint8_t ucSatFlags = 0;       // per-satellite flags, only carried
+    uint8_t ucChannel = 0;        // receiver channel number
+    uint8_t uiNumFreq = 0;        // filled records of astFreqObs
     SZelFreqObservation astFreqObs[MAX_FREQUENCIESOBSERVED];
 
-    // The signal records reset themselves.
-    SZelSatObservation() : stSatId(), ulIOD(0xFFFFFFFFu), ucSatFlags(0), ucChannel(0), uiNumFreq(0) {}
-
-    void Reset()
-    {
-        stSatId = SZelSatID();
-        ulIOD = 0xFFFFFFFFu;
-        ucSatFlags = 0;
-        ucChannel = 0;
-        uiNumFreq = 0;
-        for (SZelFreqObservation& rstObs : astFreqObs)
-        {
-            rstObs.Reset();
-        }
-    }
+    void Reset() { *this = SZelSatObservation(); }
 
     // The low 16 bits of ulIOD; false, output untouched, when there is none.
     bool GetIOD(uint16_t& runIod) const;
@@ -189,6 +207,55 @@ struct ZELTYPES_API SZelSatObservation
     // ORs the signal-class bits 17 and 18 into the filled signal records.
     void MarkSignalClasses();
 
+    // Image: the head as it stands in memory (the satellite's 8 bytes with
+    // 5 to 7 reserved, IOD at 8, flags at 12, channel at 13, count at 14),
+    // then the filled signal records. A count above the array handles the
+    // six records there are: the size then differs from getSize() and the
+    // call fails.
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
+    {
+        io.Inline(r.stSatId);
+        io.Bytes(&r.ulIOD, 7); // ulIOD, ucSatFlags, ucChannel, uiNumFreq
+        ZEL_ASSERT_TEXT(r.stSatId.isValid(), "false");
+        ZEL_ASSERT_TEXT(r.uiNumFreq <= MAX_FREQUENCIESOBSERVED,
+                        "self.uiNumFreq <= SZelSatObservation::MAX_FREQUENCIESOBSERVED");
+        if constexpr (IO::c_bLoading)
+        {
+            // The reader's true bounds test, on the count just read; the
+            // first one looked at the count the record held before. It fails
+            // silently, with the head stored.
+            if (r.getSize() > io.Offset() + io.Remaining())
+            {
+                return false;
+            }
+        }
+        for (uint32_t ulIdx = 0; ulIdx < r.UsedFreqs(); ++ulIdx)
+        {
+            io.Inline(r.astFreqObs[ulIdx]);
+            ZEL_ASSERT_TEXT(r.astFreqObs[ulIdx].eFrequency >= ZELFREQUENCY_L1CA &&
+                                r.astFreqObs[ulIdx].eFrequency <= ZELFREQUENCY_E6,
+                            "false");
+        }
+        return true;
+    }
+
+    // Text: the head, then ", " and each filled signal record (six at most).
+    // The flags go out in hexadecimal with the base prefix, which stays on
+    // the stream; the base goes back to decimal.
+    template <class IO, class Self> static void VisitText(IO& io, Self& r)
+    {
+        io.Tag("SatId, ").Value(r.stSatId).Tag(", IOD, ").Value(r.ulIOD);
+        io.Tag(", SatFlgs, ").ShowBase().template Hex<uint32_t>(r.ucSatFlags);
+        io.Tag(", ChnNum, ").template Wide<uint32_t>(r.ucChannel);
+        io.Tag(", NumFrqs, ").template Wide<uint32_t>(r.uiNumFreq);
+        ZEL_ASSERT_TEXT(r.uiNumFreq <= MAX_FREQUENCIESOBSERVED,
+                        "rstSatObs.uiNumFreq <= SZelSatObservation::MAX_FREQUENCIESOBSERVED");
+        for (uint32_t ulIdx = 0; ulIdx < r.UsedFreqs(); ++ulIdx)
+        {
+            io.Tag(", ").Value(r.astFreqObs[ulIdx]);
+        }
+    }
+
     uint64_t getSize() const { return c_ulSATOBS_HEAD_SIZE + c_ulFREQOBS_SIZE * uiNumFreq; }
     bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const;
     // The first bounds test looks at the record's present uiNumFreq, the
@@ -197,7 +264,6 @@ struct ZELTYPES_API SZelSatObservation
 
     // The ulIOD is compared last and only reported.
     bool operator==(const SZelSatObservation& rhs) const;
-    bool operator!=(const SZelSatObservation& rhs) const { return !(*this == rhs); }
 
     // Number of filled records that exist in the array.
     uint32_t UsedFreqs() const
@@ -208,6 +274,20 @@ struct ZELTYPES_API SZelSatObservation
 
 static_assert(std::is_trivially_copyable<SZelFreqObservation>::value, "block copies of signal records");
 static_assert(std::is_trivially_copyable<SZelSatObservation>::value, "block copies of satellite records");
+
+// The runs of fields of the images are runs of the memory layouts; the
+// enumerations read in them take any value of their fixed type.
+static_assert(offsetof(SZelFreqObservation, eTrackMode) == 8 && offsetof(SZelFreqObservation, dPhase) == 16 &&
+                  offsetof(SZelFreqObservation, nTimeOffsetRTCM9) == 56 &&
+                  offsetof(SZelFreqObservation, fVelocity) == 60 &&
+                  offsetof(SZelFreqObservation, fAcceleration) == 64,
+              "runs of the signal record");
+static_assert(offsetof(SZelSatObservation, ulIOD) == 8 && offsetof(SZelSatObservation, ucSatFlags) == 12 &&
+                  offsetof(SZelSatObservation, ucChannel) == 13 &&
+                  offsetof(SZelSatObservation, uiNumFreq) == 14,
+              "run of the satellite head");
+static_assert(ZelIo::IsFixedEnum<EZelFrequency>() && ZelIo::IsFixedEnum<EZelTrackMode>(),
+              "enumerations read as bytes");
 
 ZELTYPES_API std::ostream& operator<<(std::ostream& os, const SZelFreqObservation& rstFreqObs);
 ZELTYPES_API std::istream& operator>>(std::istream& is, SZelFreqObservation& rstFreqObs);

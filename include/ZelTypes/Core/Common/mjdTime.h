@@ -847,8 +847,15 @@ struct SMjdTime
 
     // ---------------------------------------------------------------- text forms
 
-    // C-string forms. The text is bounded by the given length: a text that
-    // does not fit is cut there and the result is false.
+    // C-string forms. The text is bounded by the given length, on purpose, as
+    // a safety measure: a text that does not fit is cut there (terminated)
+    // and the result is false; nothing is ever written past ulLength bytes.
+    // Room for a time within range, in bytes with the terminator:
+    // GetTextEpoch 27, GetTextMjd 19, GetTextGps 15 (16 for a time before
+    // the GPS epoch, whose 16-bit week has five digits).
+
+    // "YY MM DD hh mm ss.sssssss": year % 100, month, day, hour, minute,
+    // seconds; 26 characters. Below 26 bytes nothing is written.
     bool GetTextEpoch(char* szBuffer, size_t ulLength) const
     {
         if (szBuffer == nullptr || ulLength == 0 || ulLength < 26)
@@ -863,6 +870,7 @@ struct SMjdTime
                          ulLength);
     }
 
+    // "DDDDD MMMMMMMM.mmm": day and milliseconds of the day; 18 characters.
     bool GetTextMjd(char* szBuffer, size_t ulLength) const
     {
         if (szBuffer == nullptr || ulLength == 0)
@@ -874,6 +882,8 @@ struct SMjdTime
                          ulLength);
     }
 
+    // "WWWW MMMMMMMMM": GPS week and rounded integer milliseconds of the
+    // week; 14 characters.
     bool GetTextGps(char* szBuffer, size_t ulLength) const
     {
         if (szBuffer == nullptr || ulLength == 0)
@@ -929,9 +939,11 @@ struct SMjdTime
                   << (GpsDays() * 86400000.0 + m_dMjdFractMilliseconds);
     }
 
-    // Knows the two GPS forms only. A week or value out of range gives the
-    // default time, without a report. A failed extraction leaves the record
-    // as it was, so that a time after the cut of a text keeps its value.
+    // Knows the two GPS forms only. The stream is not tested: a failed or
+    // skipped extraction leaves its temporary at 0 (or at the limit of an
+    // overflow), and the range test alone decides. So "1000, abc" gives week
+    // 1000 at 0.0 and an empty or already failed stream gives week 0 at 0.0.
+    // A week or value out of range gives the default time, without a report.
     std::istream& ReadText(std::istream& is, EMjdTimeTextForm eForm)
     {
         if (eForm != MJDTXT_GPS_SECONDS && eForm != MJDTXT_GPS_MILLISECONDS)
@@ -943,10 +955,6 @@ struct SMjdTime
         char cComma = 0;
         double dValue = 0.0;
         is >> unWeek >> cComma >> dValue;
-        if (is.fail())
-        {
-            return is;
-        }
         const double dMax = eForm == MJDTXT_GPS_SECONDS ? 604800.0 : 604800000.0;
         if (unWeek < c_ulMAX_GPS_WEEK + 1 && dValue >= 0.0 && dValue <= dMax)
         {

@@ -6,10 +6,11 @@
 // the Keplerian block shared by the Keplerian classes.
 
 #include <ZelTypes/Core/Common/ZelAssert.h>
+#include <ZelTypes/Core/Common/ZelCompare.h>
 #include <ZelTypes/Core/Common/ZelExport.h>
+#include <ZelTypes/Core/Common/ZelRecordIO.h>
 #include <ZelTypes/Core/Common/ZelTypesIDs.h>
 #include <ZelTypes/Core/Common/mjdTime.h>
-#include <ZelTypes/Ext/Gnss/ZelExtEphCompare.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -114,19 +115,20 @@ protected:
 ZELTYPES_API float ConvUraIndexToMetres(uint8_t ucIndex);
 ZELTYPES_API uint8_t ConvUraMetresToIndex(float fMetres);
 
-// The Keplerian block: carried and compared, never evaluated.
+// The Keplerian block: carried and compared, never evaluated. A decoder puts
+// each broadcast element at its EZelEphKeplerIndex and each harmonic term at
+// its EZelEphHarmonicIndex, in the unit it chooses: the library stores,
+// compares and writes them and never scales them (getA squares the root of
+// the semi-major axis, so a root of metres gives metres).
 class ZELTYPES_API ZELX_SAT_EPHEMERIS_COMMON
 {
 public:
-    static constexpr uint64_t c_ulImageSize = 96;
+    double adKepler[ZELEPHKEPLER_COUNT] = {};     // by EZelEphKeplerIndex; producer's units
+    float afHarmonics[ZELEPHHARMONIC_COUNT] = {}; // by EZelEphHarmonicIndex; producer's units
 
-    double adKepler[ZELEPHKEPLER_COUNT];
-    float afHarmonics[ZELEPHHARMONIC_COUNT];
-
-    ZELX_SAT_EPHEMERIS_COMMON();
-    ZELX_SAT_EPHEMERIS_COMMON(const ZELX_SAT_EPHEMERIS_COMMON&) = default;
-    ZELX_SAT_EPHEMERIS_COMMON& operator=(const ZELX_SAT_EPHEMERIS_COMMON&) = default;
     virtual ~ZELX_SAT_EPHEMERIS_COMMON();
+    // Zeroes the block. Each class that holds the block resets its own
+    // fields as well in its override; PARAMS has none and keeps its two values.
     virtual void clear();
 
     double getSqrtA() const { return adKepler[ZELEPHKEPLER_SQRTA]; }
@@ -137,28 +139,30 @@ public:
     void setHarmonic(size_t ulIndex, float fValue);
     void setSqrtA(double dSqrtA) { adKepler[ZELEPHKEPLER_SQRTA] = dSqrtA; }
 
-    uint64_t getSize() const { return c_ulImageSize; }
+    // Image, 96 bytes: adKepler, then afHarmonics.
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
+    {
+        return io.Raw(r.adKepler) && io.Raw(r.afHarmonics);
+    }
+
+    uint64_t getSize() const { return ZelIo::SizeOf(*this); }
     bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength) const;
     bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength);
 };
 
 // Indices 0 to 5 at 1e-14, the rates 6 to 8 at 1e-6, the harmonics at 1e-6 (32 bits).
 ZELTYPES_API bool operator==(const ZELX_SAT_EPHEMERIS_COMMON& a, const ZELX_SAT_EPHEMERIS_COMMON& b);
-inline bool operator!=(const ZELX_SAT_EPHEMERIS_COMMON& a, const ZELX_SAT_EPHEMERIS_COMMON& b)
-{
-    return !(a == b);
-}
 
-// The block with two further values; no binary form. clear() keeps the two.
+// The block with two further values, stored and compared only; no binary
+// form. clear() keeps the two.
 class ZELTYPES_API ZELX_SAT_EPHEMERIS_PARAMS : public ZELX_SAT_EPHEMERIS_COMMON
 {
 public:
-    uint8_t ucAux1;
-    double dAux2;
+    // Zero rather than undetermined: a copy of an undetermined value is not
+    // defined behaviour.
+    uint8_t ucAux1 = 0;
+    double dAux2 = 0.0;
 
-    ZELX_SAT_EPHEMERIS_PARAMS();
-    ZELX_SAT_EPHEMERIS_PARAMS(const ZELX_SAT_EPHEMERIS_PARAMS&) = default;
-    ZELX_SAT_EPHEMERIS_PARAMS& operator=(const ZELX_SAT_EPHEMERIS_PARAMS&) = default;
     ~ZELX_SAT_EPHEMERIS_PARAMS() override;
 
     uint8_t getAux1() const { return ucAux1; }
@@ -169,10 +173,6 @@ public:
 
 // The block, then ucAux1 exactly and dAux2 at 1e-14.
 ZELTYPES_API bool operator==(const ZELX_SAT_EPHEMERIS_PARAMS& a, const ZELX_SAT_EPHEMERIS_PARAMS& b);
-inline bool operator!=(const ZELX_SAT_EPHEMERIS_PARAMS& a, const ZELX_SAT_EPHEMERIS_PARAMS& b)
-{
-    return !(a == b);
-}
 
 } // namespace ZELN
 

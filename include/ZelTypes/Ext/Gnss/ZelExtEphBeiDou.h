@@ -9,30 +9,43 @@
 namespace ZELN
 {
 
+// Where a decoder puts a BeiDou set:
+// - the satellite: POS_OFFSET_PRN_BDS + PRN into uiSvId;
+// - the times of clock and ephemeris as full times into stToc and stToe, set
+//   from the broadcast BeiDou week and seconds with SMjdTime::SetBdsTime,
+//   which stores the GPS time (14 s later); getIod counts 12-minute steps of
+//   stToc, since no broadcast issue of data fits;
+// - a time of week of the set, as the decoder chooses it (the time of its
+//   message, say), into unGPSWeek and ulTowMs in GPS time, not in BeiDou
+//   time: a GPS week and the millisecond of that week; getBdsWeek and
+//   getBdsSeconds give them back as a BeiDou week and BeiDou seconds. The
+//   library stores and writes the pair; neither equality nor the update
+//   decision looks at it;
+// - the accuracy in metres into fUra (setUraIndex converts a URA index);
+// - the clock terms a0 and a1 into adClock, further clock and delay terms
+//   into afAux3, in the producer's units, which the library never scales;
+// - health 0 for a usable set into ucHealth; further broadcast values into
+//   ulAux1, ucAux2 and ucAux4, stored only.
 class ZELTYPES_API ZELX_SAT_EPHEMERIS_BEIDOU : public ZELX_SAT_EPHEMERIS_COMMON,
                                                public ZELX_SAT_EPHEMERIS_BASE
 {
 public:
-    static constexpr uint64_t c_ulImageSize = 176;
     static constexpr uint8_t c_ucImageVersion = 6;
 
-    uint8_t uiSvId;
-    bool bValid;
-    uint32_t ulAux1;    // not compared
-    uint16_t unGPSWeek; // GPS week
-    uint32_t ulTowMs;   // millisecond of the GPS week
-    float fUra;         // metres
-    uint8_t ucAux2;     // not compared
-    double adClock[2];  // af0, af1
-    SMjdTime stToc;
-    float afAux3[3]; // further clock and delay terms
-    uint8_t ucAux4;  // not compared
-    SMjdTime stToe;
-    uint8_t ucHealth; // 0 healthy
+    uint8_t uiSvId = 0;     // running number
+    bool bValid = false;    // the record holds a received set
+    uint32_t ulAux1 = 0;    // not compared
+    uint16_t unGPSWeek = 0; // GPS week of ulTowMs
+    uint32_t ulTowMs = 0;   // millisecond of the GPS week, in GPS time
+    float fUra = 0.0f;      // accuracy, metres
+    uint8_t ucAux2 = 0;     // not compared
+    double adClock[2] = {}; // a0, a1; producer's units
+    SMjdTime stToc;         // time of clock
+    float afAux3[3] = {};   // further clock and delay terms; producer's units
+    uint8_t ucAux4 = 0;     // not compared
+    SMjdTime stToe;         // time of ephemeris
+    uint8_t ucHealth = 1;   // 0 healthy
 
-    ZELX_SAT_EPHEMERIS_BEIDOU();
-    ZELX_SAT_EPHEMERIS_BEIDOU(const ZELX_SAT_EPHEMERIS_BEIDOU&) = default;
-    ZELX_SAT_EPHEMERIS_BEIDOU& operator=(const ZELX_SAT_EPHEMERIS_BEIDOU&) = default;
     ~ZELX_SAT_EPHEMERIS_BEIDOU() override;
 
     void clear() override;
@@ -70,17 +83,24 @@ public:
     void setToe(const SMjdTime& stValue) { stToe = stValue; }
     void setHealth(uint8_t ucValue) { ucHealth = ucValue; }
 
-    uint64_t getSize() const { return c_ulImageSize; }
+    // Image, 176 bytes: the version, the fields in declaration order, then
+    // the common block.
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
+    {
+        return io.Version(c_ucImageVersion) && io.Raw(r.uiSvId) && io.Raw(r.bValid) && io.Raw(r.ulAux1) &&
+               io.Raw(r.unGPSWeek) && io.Raw(r.ulTowMs) && io.Raw(r.fUra) && io.Raw(r.ucAux2) &&
+               io.Raw(r.adClock) && io.Record(r.stToc, true) && io.Raw(r.afAux3) && io.Raw(r.ucAux4) &&
+               io.Record(r.stToe, true) && io.Raw(r.ucHealth) &&
+               io.template ExtRecord<ZELX_SAT_EPHEMERIS_COMMON>(r);
+    }
+
+    uint64_t getSize() const { return ZelIo::SizeOf(*this); }
     bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength) const;
     bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength);
 };
 
 // The times compare within 1e-9 s whatever their accuracy fields say.
 ZELTYPES_API bool operator==(const ZELX_SAT_EPHEMERIS_BEIDOU& a, const ZELX_SAT_EPHEMERIS_BEIDOU& b);
-inline bool operator!=(const ZELX_SAT_EPHEMERIS_BEIDOU& a, const ZELX_SAT_EPHEMERIS_BEIDOU& b)
-{
-    return !(a == b);
-}
 
 ZELTYPES_API bool isNewEphemerisBeiDou(const ZELX_SAT_EPHEMERIS_BEIDOU& rEphCurrent,
                                        const ZELX_SAT_EPHEMERIS_BEIDOU& rEphNew);

@@ -18,38 +18,57 @@ enum EZelGalNavKind
     ZELGALNAVKIND_INAV = 2
 };
 
+// Where a decoder puts a Galileo set:
+// - the satellite: POS_OFFSET_PRN_GAL + PRN into uiSVID; a source other than
+//   POS_SAT_EPH_GAL_SRC_INVALID into uiEphSource (its values are the
+//   decoder's; 0 means that the record holds no set);
+// - the stream into ulNavType: 5 for F/NAV; for I/NAV 2 when the health of
+//   E1-B counts, 3 when that of E5b counts, 4 when both count; 1 is an I/NAV
+//   set of unknown signal and never healthy; 0 none;
+// - the health bits, as broadcast, through setHealthINav: bit 0 DVS E1-B,
+//   bits 1 and 2 HS E1-B, bit 3 DVS E5b, bits 4 and 5 HS E5b; or through
+//   setHealthFNav: bit 0 DVS E5a, bits 1 and 2 HS E5a. A source that orders
+//   the bits otherwise is mapped to this order first;
+// - IODnav into unIodNav; the SISA index into ucSisaIndex (getSisa and setSisa
+//   convert from and to metres);
+// - the times of ephemeris and clock as seconds of the week into ulToe and
+//   ulToc, and a time near them into stRefTimeApprox through
+//   setRefTimeApprox: getToe and getToc give the instance of each second of
+//   a GPS week nearest to that time, so it gives the week;
+// - the clock polynomial of the stream into dAf0, dAf1, dAf2 and the group
+//   delays E1-E5a and E1-E5b into dBgdE5a and dBgdE5b, in the producer's
+//   units, which the library never scales;
+// - the broadcast week and second into unPT1Week and ulPT1Tow through
+//   setPT1Time (getPT1Time gives the full time).
 class ZELTYPES_API ZELX_SAT_EPHEMERIS_GALILEO : public ZELX_SAT_EPHEMERIS_COMMON,
                                                 public ZELX_SAT_EPHEMERIS_BASE
 {
 public:
-    static constexpr uint64_t c_ulImageSize = 183;
     static constexpr uint8_t c_ucImageVersion = 5;
     static constexpr uint32_t c_ulPT1_TOW_UNSET = 0xFFFFFF;
     static constexpr uint8_t c_ucSISA_NAPA = 0xFF; // no accuracy prediction
 
-    uint32_t ulNavType;  // 0 none, 1 to 4 the I/NAV kinds, 5 F/NAV
-    uint8_t uiSVID;      // running number
-    uint8_t uiEphSource; // POS_SAT_EPH_GAL_SRC_INVALID: no set held
-    uint8_t ucAux1;      // compared
-    uint16_t unIodNav;
-    uint8_t ucSisaIndex;
-    uint8_t ucHsE1b, ucHsE5b, ucHsE5a;    // signal health, two bits
-    uint8_t ucDvsE1b, ucDvsE5b, ucDvsE5a; // data validity, one bit
-    uint32_t ulToe;                       // second of the week
-    uint32_t ulToc;                       // second of the week
-    double dAf0, dAf1, dAf2;
-    double dBgdE5a, dBgdE5b;
-    SMjdTime stRefTimeApprox; // a time near the set, gives the week
-    uint16_t unPT1Week;
-    uint32_t ulPT1Tow;
+    uint32_t ulNavType = 0;                            // 0 none, 1 to 4 the I/NAV kinds, 5 F/NAV
+    uint8_t uiSVID = 0;                                // running number
+    uint8_t uiEphSource = POS_SAT_EPH_GAL_SRC_INVALID; // POS_SAT_EPH_GAL_SRC_INVALID: no set held
+    uint8_t ucAux1 = 0;                                // compared
+    uint16_t unIodNav = 0;                             // issue of data
+    uint8_t ucSisaIndex = 0;                           // SISA index; c_ucSISA_NAPA: none
+    uint8_t ucHsE1b = 1, ucHsE5b = 1, ucHsE5a = 1;     // signal health, two bits
+    uint8_t ucDvsE1b = 0, ucDvsE5b = 0, ucDvsE5a = 0;  // data validity, one bit
+    uint32_t ulToe = 0;                                // time of ephemeris, second of the week
+    uint32_t ulToc = 0;                                // time of clock, second of the week
+    double dAf0 = 0.0, dAf1 = 0.0, dAf2 = 0.0;         // clock polynomial, producer's units
+    double dBgdE5a = 0.0, dBgdE5b = 0.0;               // group delays, producer's unit
+    SMjdTime stRefTimeApprox;                          // a time near the set, gives the week
+    uint16_t unPT1Week = 0;                            // broadcast week
+    uint32_t ulPT1Tow = c_ulPT1_TOW_UNSET;             // broadcast second of the week
 
-    ZELX_SAT_EPHEMERIS_GALILEO();
-    explicit ZELX_SAT_EPHEMERIS_GALILEO(uint32_t ulNavTypeInit);
-    ZELX_SAT_EPHEMERIS_GALILEO(const ZELX_SAT_EPHEMERIS_GALILEO&) = default;
-    ZELX_SAT_EPHEMERIS_GALILEO& operator=(const ZELX_SAT_EPHEMERIS_GALILEO&) = default;
+    ZELX_SAT_EPHEMERIS_GALILEO() = default;
+    explicit ZELX_SAT_EPHEMERIS_GALILEO(uint32_t ulNavTypeInit) : ulNavType(ulNavTypeInit) {}
     ~ZELX_SAT_EPHEMERIS_GALILEO() override;
 
-    // Unlike the constructor, also zeroes ulNavType and all health fields.
+    // Unlike the constructor, also zeroes the signal health.
     void clear() override;
 
     uint8_t getSvId() const override;
@@ -112,7 +131,20 @@ public:
     void setBgdE5a(double dValue) { dBgdE5a = dValue; }
     void setBgdE5b(double dValue) { dBgdE5b = dValue; }
 
-    uint64_t getSize() const { return c_ulImageSize; }
+    // Image, 183 bytes: the version, the fields in declaration order, then
+    // the common block.
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
+    {
+        return io.Version(c_ucImageVersion) && io.Raw(r.ulNavType) && io.Raw(r.uiSVID) &&
+               io.Raw(r.uiEphSource) && io.Raw(r.ucAux1) && io.Raw(r.unIodNav) && io.Raw(r.ucSisaIndex) &&
+               io.Raw(r.ucHsE1b) && io.Raw(r.ucHsE5b) && io.Raw(r.ucHsE5a) && io.Raw(r.ucDvsE1b) &&
+               io.Raw(r.ucDvsE5b) && io.Raw(r.ucDvsE5a) && io.Raw(r.ulToe) && io.Raw(r.ulToc) &&
+               io.Raw(r.dAf0) && io.Raw(r.dAf1) && io.Raw(r.dAf2) && io.Raw(r.dBgdE5a) && io.Raw(r.dBgdE5b) &&
+               io.Record(r.stRefTimeApprox, true) && io.Raw(r.unPT1Week) && io.Raw(r.ulPT1Tow) &&
+               io.template ExtRecord<ZELX_SAT_EPHEMERIS_COMMON>(r);
+    }
+
+    uint64_t getSize() const { return ZelIo::SizeOf(*this); }
     bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength) const;
     bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength);
 
@@ -123,10 +155,6 @@ private:
 // uiEphSource, stRefTimeApprox and the PT1 pair take no direct part; the
 // reference times compare through getToc and getToe.
 ZELTYPES_API bool operator==(const ZELX_SAT_EPHEMERIS_GALILEO& a, const ZELX_SAT_EPHEMERIS_GALILEO& b);
-inline bool operator!=(const ZELX_SAT_EPHEMERIS_GALILEO& a, const ZELX_SAT_EPHEMERIS_GALILEO& b)
-{
-    return !(a == b);
-}
 
 // With bContentOnly, a set not older than the held one replaces it whenever it differs.
 ZELTYPES_API bool isNewEphemerisGalileo(const ZELX_SAT_EPHEMERIS_GALILEO& rEphCurrent,

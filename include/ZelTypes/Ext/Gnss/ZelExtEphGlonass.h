@@ -9,29 +9,38 @@
 namespace ZELN
 {
 
+// Where a decoder puts a GLONASS set:
+// - the satellite: its slot number plus POS_MAX_PRN_GPS into uiSvId;
+// - the reference time tb in GPS time, not in the system's own: the GPS week
+//   into unGPSWeek and the millisecond of that week into ulToeMs;
+// - the issue of data into ulIod (getIod, compared by the update decision);
+//   the M-type flag into bMType;
+// - the state vector into adState: position [0] to [2], velocity [3] to [5],
+//   acceleration [6] to [8], each x, y, z; [9] to [11] three further terms of
+//   the decoder's choice. Unit and frame are the producer's: the library
+//   stores, compares (relative, so any unit does) and writes them and never
+//   scales them, and has no kilometre getters as SBAS has;
+// - Bn and Ln into ucHealth through setBnLn, setHealthFlags or setHealthBool;
+// - further broadcast words into the Aux fields: ucAux1, unAux4, ulAux5 and
+//   aulAux6[1] to [3] are compared, the others are stored only.
 class ZELTYPES_API ZELX_SAT_EPHEMERIS_GLONASS : public ZELX_SAT_EPHEMERIS_BASE
 {
 public:
-    static constexpr uint64_t c_ulImageSize = 142;
+    uint8_t uiSvId = 0;       // running number: POS_MAX_PRN_GPS + slot
+    uint8_t ucAux1 = 0;       // compared
+    uint16_t unAux2 = 0;      // not compared
+    uint32_t ulAux3 = 0;      // not compared
+    bool bValid = false;      // the record holds a received set
+    bool bMType = false;      // the satellite is of M type
+    uint16_t unAux4 = 0;      // compared
+    uint16_t unGPSWeek = 0;   // GPS week of the reference time
+    uint32_t ulToeMs = 0;     // reference time, millisecond of the GPS week
+    uint32_t ulAux5 = 0;      // compared
+    uint32_t ulIod = 0;       // issue of data
+    double adState[12] = {};  // position, velocity, acceleration, further terms; producer's units
+    uint32_t aulAux6[5] = {}; // the second to fourth are compared
+    uint8_t ucHealth = 1;     // bits 0 to 2 Bn, bit 3 Ln; not part of the image
 
-    uint8_t uiSvId;
-    uint8_t ucAux1;     // compared
-    uint16_t unAux2;    // not compared
-    uint32_t ulAux3;    // not compared
-    bool bValid;        // the record holds a received set
-    bool bMType;        // the satellite is of M type
-    uint16_t unAux4;    // compared
-    uint16_t unGPSWeek; // GPS week of the reference time
-    uint32_t ulToeMs;   // reference time, millisecond of the GPS week
-    uint32_t ulAux5;    // compared
-    uint32_t ulIod;
-    double adState[12];  // position, velocity, acceleration (3 each), three further terms
-    uint32_t aulAux6[5]; // the second to fourth are compared
-    uint8_t ucHealth;    // bits 0 to 2 Bn, bit 3 Ln; not part of the image
-
-    ZELX_SAT_EPHEMERIS_GLONASS();
-    ZELX_SAT_EPHEMERIS_GLONASS(const ZELX_SAT_EPHEMERIS_GLONASS&) = default;
-    ZELX_SAT_EPHEMERIS_GLONASS& operator=(const ZELX_SAT_EPHEMERIS_GLONASS&) = default;
     ~ZELX_SAT_EPHEMERIS_GLONASS() override;
 
     void clear();
@@ -76,7 +85,17 @@ public:
     void setState(size_t ulIndex, double dValue);
     void setAux6(size_t ulIndex, uint32_t ulValue);
 
-    uint64_t getSize() const { return c_ulImageSize; }
+    // Image, 142 bytes: the fields in declaration order without ucHealth, so
+    // that a loaded record keeps its own health; no version byte.
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
+    {
+        return io.Raw(r.uiSvId) && io.Raw(r.ucAux1) && io.Raw(r.unAux2) && io.Raw(r.ulAux3) &&
+               io.Raw(r.bValid) && io.Raw(r.bMType) && io.Raw(r.unAux4) && io.Raw(r.unGPSWeek) &&
+               io.Raw(r.ulToeMs) && io.Raw(r.ulAux5) && io.Raw(r.ulIod) && io.Raw(r.adState) &&
+               io.Raw(r.aulAux6);
+    }
+
+    uint64_t getSize() const { return ZelIo::SizeOf(*this); }
     bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength) const;
     bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength);
 };
@@ -84,10 +103,6 @@ public:
 // bValid, unAux2, ulAux3, the first and fifth aulAux6 and the health bits
 // beyond isHealthy take no part.
 ZELTYPES_API bool operator==(const ZELX_SAT_EPHEMERIS_GLONASS& a, const ZELX_SAT_EPHEMERIS_GLONASS& b);
-inline bool operator!=(const ZELX_SAT_EPHEMERIS_GLONASS& a, const ZELX_SAT_EPHEMERIS_GLONASS& b)
-{
-    return !(a == b);
-}
 
 ZELTYPES_API bool isNewEphemerisGlonass(const ZELX_SAT_EPHEMERIS_GLONASS& rEphCurrent,
                                         const ZELX_SAT_EPHEMERIS_GLONASS& rEphNew);

@@ -9,30 +9,40 @@
 namespace ZELN
 {
 
+// Where a decoder puts a GPS set:
+// - the orbit: the Keplerian elements and harmonic terms into the common block;
+// - the time of ephemeris: the full GPS week (not modulo 1024) into
+//   unGPSWeek, the second of the week into ulToe; the time of clock into ulToc;
+// - the clock polynomial af0, af1, af2 into afClock, in EZelEphClockIndex order;
+// - IODC into unIodc, the issue that getIod gives and the update decision
+//   compares; IODE has no field of its own and goes into aunWords[0], stored
+//   and compared only; aunWords[1] to [4] are free for further words;
+// - the URA index into unUraIndex (getUra and setUra convert from and to metres),
+//   the group delay into fGroupDelay, the six health bits into unHealth, the
+//   fit interval flag into ucFitIntervalFlag;
+// - the second of the week at which the message was sent into ulTransmissionTime.
+// Values with no unit below keep the producer's unit: the library stores,
+// compares and writes them and never scales them.
 class ZELTYPES_API ZELX_SAT_EPHEMERIS : public ZELX_SAT_EPHEMERIS_COMMON, public ZELX_SAT_EPHEMERIS_BASE
 {
 public:
-    static constexpr uint64_t c_ulImageSize = 145;
     static constexpr uint32_t c_ulNO_TRANSMISSION_TIME = 0xFFFFFFFF;
     static constexpr uint8_t c_ucFIT_INTERVAL_UNKNOWN = 0xFF;
 
-    uint8_t uiSvId;              // running number; for GPS the PRN
-    bool bValid;                 // the record holds a received set
-    uint32_t ulTransmissionTime; // second of the week, c_ulNO_TRANSMISSION_TIME when unknown
-    uint16_t unGPSWeek;          // full week of the time of ephemeris
-    uint16_t unUraIndex;
-    uint16_t aunWords[5]; // further broadcast words, stored and compared only
-    uint16_t unIodc;
-    float fGroupDelay;
-    uint32_t ulToe;
-    uint32_t ulToc;
-    float afClock[3]; // af0, af1, af2
-    uint8_t ucFitIntervalFlag;
-    uint16_t unHealth; // six health bits
+    uint8_t uiSvId = 0;                                     // running number; for GPS the PRN
+    bool bValid = false;                                    // the record holds a received set
+    uint32_t ulTransmissionTime = c_ulNO_TRANSMISSION_TIME; // s of the GPS week, or unknown
+    uint16_t unGPSWeek = 0;                                 // full GPS week of ulToe
+    uint16_t unUraIndex = 0;                                // URA index, 0 to 15
+    uint16_t aunWords[5] = {}; // [0] IODE, [1] to [4] free; stored and compared only
+    uint16_t unIodc = 0;       // issue of data, clock
+    float fGroupDelay = 0.0f;  // group delay, producer's unit
+    uint32_t ulToe = 0;        // time of ephemeris, s of the week unGPSWeek
+    uint32_t ulToc = 0;        // time of clock, s of the GPS week
+    float afClock[3] = {};     // af0, af1, af2; producer's units
+    uint8_t ucFitIntervalFlag = c_ucFIT_INTERVAL_UNKNOWN; // 0, 1, or c_ucFIT_INTERVAL_UNKNOWN
+    uint16_t unHealth = 1;                                // six health bits, low-order; 0 healthy
 
-    ZELX_SAT_EPHEMERIS();
-    ZELX_SAT_EPHEMERIS(const ZELX_SAT_EPHEMERIS&) = default;
-    ZELX_SAT_EPHEMERIS& operator=(const ZELX_SAT_EPHEMERIS&) = default;
     ~ZELX_SAT_EPHEMERIS() override;
 
     // Declared ahead of the interface overrides: the third slot of the COMMON side.
@@ -52,14 +62,15 @@ public:
                                          uint32_t ulMarginSeconds);
 
     uint32_t getTransmissionTime() const { return ulTransmissionTime; }
-    // Relative to the week of ulToe; estimated on a 30-second grid when unknown.
+    // Second relative to the week of ulToe; estimated on a 30-second grid when unknown.
     int32_t getTransmissionTimeOfWeek() const;
 
+    // Metres.
     float getUra() const;
     void setUra(float fMetres);
 
     // Keeps the six low bits; higher bits are reported and dropped.
-    void setHealth(uint16_t unHealth);
+    void setHealth(uint16_t unValue);
     void setHealthBool(bool bUnhealthy);
 
     void setSvId(uint8_t uiValue) { uiSvId = uiValue; }
@@ -75,17 +86,22 @@ public:
     void setClock(size_t ulIndex, float fValue);
     void setFitIntervalFlag(uint8_t ucValue) { ucFitIntervalFlag = ucValue; }
 
-    uint64_t getSize() const { return c_ulImageSize; }
+    // Image, 145 bytes: the fields in declaration order, then the common block.
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
+    {
+        return io.Raw(r.uiSvId) && io.Raw(r.bValid) && io.Raw(r.ulTransmissionTime) && io.Raw(r.unGPSWeek) &&
+               io.Raw(r.unUraIndex) && io.Raw(r.aunWords) && io.Raw(r.unIodc) && io.Raw(r.fGroupDelay) &&
+               io.Raw(r.ulToe) && io.Raw(r.ulToc) && io.Raw(r.afClock) && io.Raw(r.ucFitIntervalFlag) &&
+               io.Raw(r.unHealth) && io.template ExtRecord<ZELX_SAT_EPHEMERIS_COMMON>(r);
+    }
+
+    uint64_t getSize() const { return ZelIo::SizeOf(*this); }
     bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength) const;
     bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength);
 };
 
 // bValid and ulTransmissionTime take no part.
 ZELTYPES_API bool operator==(const ZELX_SAT_EPHEMERIS& a, const ZELX_SAT_EPHEMERIS& b);
-inline bool operator!=(const ZELX_SAT_EPHEMERIS& a, const ZELX_SAT_EPHEMERIS& b)
-{
-    return !(a == b);
-}
 
 // True when rEphNew is to replace rEphCurrent.
 ZELTYPES_API bool isNewEphemerisGps(const ZELX_SAT_EPHEMERIS& rEphCurrent, const ZELX_SAT_EPHEMERIS& rEphNew);

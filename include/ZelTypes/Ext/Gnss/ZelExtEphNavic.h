@@ -9,32 +9,43 @@
 namespace ZELN
 {
 
+// Where a decoder puts a NavIC set:
+// - the satellite: POS_OFFSET_PRN_NAVIC + PRN into ulPrn;
+// - the times of clock and ephemeris as full times into stToc and stToe, in
+//   the scale of the times the client compares them with (checkValidity);
+// - IODEC into ucIodec (getIod; getCurveFitSeconds reads the fit from it);
+// - the clock polynomial af0, af1, af2 into adClock, in the producer's units,
+//   which the library never scales; a further term into dAux2;
+// - the accuracy in metres into fUra (setUraIndex converts a URA index);
+// - the two health flags into ucHealthFlag1 and ucHealthFlag2 (0 healthy;
+//   only the first counts for isHealthy) and the alert flag into
+//   ucAlertFlag (1: do not use);
+// - the broadcast week and second into unPT1Week and ulPT1Tow through
+//   setPT1Time (getPT1Time gives the full time, the week counting 1024 GPS
+//   weeks on, with no rollover);
+// - further broadcast values into ulAux1 and ucAux3.
 class ZELTYPES_API ZELX_SAT_EPHEMERIS_NAVIC : public ZELX_SAT_EPHEMERIS_COMMON, public ZELX_SAT_EPHEMERIS_BASE
 {
 public:
-    static constexpr uint64_t c_ulImageSize = 185;
     static constexpr uint8_t c_ucImageVersion = 3;
     static constexpr uint32_t c_ulPT1_TOW_UNSET = 0xFFFFFF;
 
-    uint32_t ulPrn; // running number; getSvId gives its low byte
-    uint32_t ulAux1;
-    bool bValid;
-    double adClock[3]; // af0, af1, af2
-    float fUra;        // metres
-    SMjdTime stToc;
-    double dAux2;
-    uint8_t ucIodec;
-    uint8_t ucHealthFlag1; // 0 healthy
-    uint8_t ucHealthFlag2; // 0 healthy
-    SMjdTime stToe;
-    uint8_t ucAlertFlag; // 1: do not use
-    uint8_t ucAux3;
-    uint16_t unPT1Week;
-    uint32_t ulPT1Tow;
+    uint32_t ulPrn = 0;        // running number; getSvId gives its low byte
+    uint32_t ulAux1 = 0;       // compared
+    bool bValid = false;       // the record holds a received set; compared
+    double adClock[3] = {};    // af0, af1, af2; producer's units
+    float fUra = 0.0f;         // accuracy, metres
+    SMjdTime stToc;            // time of clock
+    double dAux2 = 0.0;        // producer's unit
+    uint8_t ucIodec = 0;       // issue of data
+    uint8_t ucHealthFlag1 = 0; // 0 healthy
+    uint8_t ucHealthFlag2 = 0; // 0 healthy
+    SMjdTime stToe;            // time of ephemeris
+    uint8_t ucAlertFlag = 1;   // 1: do not use
+    uint8_t ucAux3 = 0;        // compared
+    uint16_t unPT1Week = 0;    // broadcast week
+    uint32_t ulPT1Tow = 0;     // broadcast second of the week
 
-    ZELX_SAT_EPHEMERIS_NAVIC();
-    ZELX_SAT_EPHEMERIS_NAVIC(const ZELX_SAT_EPHEMERIS_NAVIC&) = default;
-    ZELX_SAT_EPHEMERIS_NAVIC& operator=(const ZELX_SAT_EPHEMERIS_NAVIC&) = default;
     ~ZELX_SAT_EPHEMERIS_NAVIC() override;
 
     void clear() override;
@@ -78,16 +89,23 @@ public:
     void setAlertFlag(uint8_t ucValue) { ucAlertFlag = ucValue; }
     void setAux3(uint8_t ucValue) { ucAux3 = ucValue; }
 
-    uint64_t getSize() const { return c_ulImageSize; }
+    // Image, 185 bytes: the version, the fields in declaration order, then
+    // the common block.
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
+    {
+        return io.Version(c_ucImageVersion) && io.Raw(r.ulPrn) && io.Raw(r.ulAux1) && io.Raw(r.bValid) &&
+               io.Raw(r.adClock) && io.Raw(r.fUra) && io.Record(r.stToc, true) && io.Raw(r.dAux2) &&
+               io.Raw(r.ucIodec) && io.Raw(r.ucHealthFlag1) && io.Raw(r.ucHealthFlag2) &&
+               io.Record(r.stToe, true) && io.Raw(r.ucAlertFlag) && io.Raw(r.ucAux3) && io.Raw(r.unPT1Week) &&
+               io.Raw(r.ulPT1Tow) && io.template ExtRecord<ZELX_SAT_EPHEMERIS_COMMON>(r);
+    }
+
+    uint64_t getSize() const { return ZelIo::SizeOf(*this); }
     bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength) const;
     bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength);
 };
 
 ZELTYPES_API bool operator==(const ZELX_SAT_EPHEMERIS_NAVIC& a, const ZELX_SAT_EPHEMERIS_NAVIC& b);
-inline bool operator!=(const ZELX_SAT_EPHEMERIS_NAVIC& a, const ZELX_SAT_EPHEMERIS_NAVIC& b)
-{
-    return !(a == b);
-}
 
 ZELTYPES_API bool isNewEphemerisNavic(const ZELX_SAT_EPHEMERIS_NAVIC& rEphCurrent,
                                       const ZELX_SAT_EPHEMERIS_NAVIC& rEphNew);

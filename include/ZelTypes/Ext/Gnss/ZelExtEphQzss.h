@@ -9,22 +9,24 @@
 namespace ZELN
 {
 
+// Where a decoder puts a QZSS set: as a GPS set (see ZELX_SAT_EPHEMERIS; the
+// times are a GPS week and seconds of it, IODE goes into aunWords[0]), with
+// POS_OFFSET_PRN_QZSS + 1 for PRN 193 in uiSvId, and six further broadcast
+// values into ucQzss1 to ulQzss6, to which the library attaches no meaning
+// and no unit: it stores and writes them, and compares the first four.
+// Health 1 counts as healthy here.
 class ZELTYPES_API ZELX_SAT_EPHEMERIS_QZSS : public ZELX_SAT_EPHEMERIS
 {
 public:
-    static constexpr uint64_t c_ulImageSize = 164;
     static constexpr uint8_t c_ucImageVersion = 3;
 
-    uint8_t ucQzss1;
-    uint8_t ucQzss2;
-    uint16_t unQzss3;
-    double dQzss4;
-    uint16_t unQzss5;
-    uint32_t ulQzss6;
+    uint8_t ucQzss1 = 0;  // compared
+    uint8_t ucQzss2 = 0;  // compared
+    uint16_t unQzss3 = 0; // compared
+    double dQzss4 = 0.0;  // compared at 1e-14
+    uint16_t unQzss5 = 0; // not compared
+    uint32_t ulQzss6 = 0; // not compared
 
-    ZELX_SAT_EPHEMERIS_QZSS();
-    ZELX_SAT_EPHEMERIS_QZSS(const ZELX_SAT_EPHEMERIS_QZSS&) = default;
-    ZELX_SAT_EPHEMERIS_QZSS& operator=(const ZELX_SAT_EPHEMERIS_QZSS&) = default;
     ~ZELX_SAT_EPHEMERIS_QZSS() override;
 
     uint8_t getFitIntervalHours() const override;
@@ -52,17 +54,21 @@ public:
     void setQzss5(uint16_t unValue) { unQzss5 = unValue; }
     void setQzss6(uint32_t ulValue) { ulQzss6 = ulValue; }
 
-    uint64_t getSize() const { return c_ulImageSize; }
+    // Image, 164 bytes: the version, the six values, then the GPS image.
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
+    {
+        return io.Version(c_ucImageVersion) && io.Raw(r.ucQzss1) && io.Raw(r.ucQzss2) && io.Raw(r.unQzss3) &&
+               io.Raw(r.dQzss4) && io.Raw(r.unQzss5) && io.Raw(r.ulQzss6) &&
+               io.template ExtRecord<ZELX_SAT_EPHEMERIS>(r);
+    }
+
+    uint64_t getSize() const { return ZelIo::SizeOf(*this); }
     bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength) const;
     bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength);
 };
 
 // The GPS equality, then ucQzss1, ucQzss2, unQzss3 exactly and dQzss4 at 1e-14.
 ZELTYPES_API bool operator==(const ZELX_SAT_EPHEMERIS_QZSS& a, const ZELX_SAT_EPHEMERIS_QZSS& b);
-inline bool operator!=(const ZELX_SAT_EPHEMERIS_QZSS& a, const ZELX_SAT_EPHEMERIS_QZSS& b)
-{
-    return !(a == b);
-}
 
 ZELTYPES_API bool isNewEphemerisQzss(const ZELX_SAT_EPHEMERIS_QZSS& rEphCurrent,
                                      const ZELX_SAT_EPHEMERIS_QZSS& rEphNew);

@@ -9,26 +9,33 @@
 namespace ZELN
 {
 
+// Where a decoder puts an SBAS set:
+// - the satellite into uiSvId: POS_OFFSET_PRN_SBAS + 1 for PRN 120, and on;
+// - the reference time as a GPS week and a second of that week into
+//   unGPSWeek and ulToe;
+// - position, velocity and acceleration, each x, y, z in the producer's
+//   frame, into the nine state values in metres, metres per second and
+//   metres per second squared (the Km getters divide by 1000);
+// - the clock term, the accuracy and further broadcast values in the
+//   producer's units, which the library never scales; health 0 for a
+//   usable set.
 class ZELTYPES_API ZELX_SAT_EPHEMERIS_SBAS : public ZELX_SAT_EPHEMERIS_BASE
 {
 public:
-    uint8_t uiSvId;
-    uint16_t unGPSWeek; // GPS week of the reference time
-    uint8_t ucAux1;     // compared
-    uint32_t ulToe;     // reference time, second of the GPS week
-    double dClock;
-    float fUra;
-    uint32_t ulAux2;            // compared
-    double dPosX, dPosY, dPosZ; // metres
-    double dVelX, dVelY, dVelZ; // metres per second
-    double dAccX, dAccY, dAccZ; // metres per second squared
-    uint8_t ucHealth;           // 0 healthy
-    uint8_t ucAux3;             // compared
-    uint8_t ucIod;
+    uint8_t uiSvId = 0;                           // running number
+    uint16_t unGPSWeek = 0;                       // GPS week of the reference time
+    uint8_t ucAux1 = 0;                           // compared
+    uint32_t ulToe = 0;                           // reference time, second of the GPS week
+    double dClock = 0.0;                          // clock term, producer's unit
+    float fUra = 0.0f;                            // accuracy, producer's unit
+    uint32_t ulAux2 = 0;                          // compared
+    double dPosX = 0.0, dPosY = 0.0, dPosZ = 0.0; // position, metres
+    double dVelX = 0.0, dVelY = 0.0, dVelZ = 0.0; // velocity, metres per second
+    double dAccX = 0.0, dAccY = 0.0, dAccZ = 0.0; // acceleration, metres per second squared
+    uint8_t ucHealth = 1;                         // 0 healthy
+    uint8_t ucAux3 = 0;                           // compared
+    uint8_t ucIod = 0;                            // issue of data
 
-    ZELX_SAT_EPHEMERIS_SBAS();
-    ZELX_SAT_EPHEMERIS_SBAS(const ZELX_SAT_EPHEMERIS_SBAS&) = default;
-    ZELX_SAT_EPHEMERIS_SBAS& operator=(const ZELX_SAT_EPHEMERIS_SBAS&) = default;
     ~ZELX_SAT_EPHEMERIS_SBAS() override;
 
     void clear();
@@ -92,10 +99,6 @@ public:
 };
 
 ZELTYPES_API bool operator==(const ZELX_SAT_EPHEMERIS_SBAS& a, const ZELX_SAT_EPHEMERIS_SBAS& b);
-inline bool operator!=(const ZELX_SAT_EPHEMERIS_SBAS& a, const ZELX_SAT_EPHEMERIS_SBAS& b)
-{
-    return !(a == b);
-}
 
 } // namespace ZELN
 

@@ -5,7 +5,6 @@
 
 #include <ZelTypes/Ext/Gnss/ZelExtEphBase.h>
 #include <ZelTypes/Ext/Gnss/ZelExtEphBeiDou.h>
-#include <ZelTypes/Ext/Gnss/ZelExtEphCompare.h>
 #include <ZelTypes/Ext/Gnss/ZelExtEphGalileo.h>
 #include <ZelTypes/Ext/Gnss/ZelExtEphGlonass.h>
 #include <ZelTypes/Ext/Gnss/ZelExtEphGps.h>

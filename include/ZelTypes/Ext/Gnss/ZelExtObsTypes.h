@@ -4,8 +4,12 @@
 // The external form of an observation epoch: the epoch followed by a short
 // record of the station that observed it.
 
+#include <ZelTypes/Core/Common/ZelAssert.h>
+#include <ZelTypes/Core/Common/ZelCompare.h>
 #include <ZelTypes/Core/Common/ZelExport.h>
 #include <ZelTypes/Core/Common/ZelObsEpoch.h>
+#include <ZelTypes/Core/Common/ZelRecordIO.h>
+#include <ZelTypes/Core/Common/ZelTimeBlockIO.h>
 #include <ZelTypes/Core/Common/mjdTime.h>
 
 #include <cstdint>
@@ -21,27 +25,59 @@ constexpr uint64_t c_ulEXTOBSEPOCH_EXTRA_SIZE = 44; // epoch length and station 
 // The station record, 40 bytes as it stands in memory.
 struct ZELTYPES_API SZelObsInfo
 {
-    SMjdTime stStaticSince; // accuracy NANOSECOND by default
-    uint8_t ucTimeStatus;
-    uint16_t unObsFlags;
-    uint8_t ucDataFlags;
-    uint8_t ucStationType;
-    uint32_t ulStationId;
+    SMjdTime stStaticSince; // start of the present static period, accuracy NANOSECOND by default
+    uint8_t ucTimeStatus = 0;
+    uint16_t unObsFlags = 0;
+    uint8_t ucDataFlags = 0;
+    uint8_t ucStationType = 0;
+    uint32_t ulStationId = 0;
 
-    SZelObsInfo() { Reset(); }
+    void Reset() { *this = SZelObsInfo(); }
 
-    void Reset();
+    // Image: the time block at 0, status at 24, flags at 26, data flags at
+    // 28, station type at 29, station id at 32; reserved bytes as zero.
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
+    {
+        ZelIo::VisitTimeBlock(io, r.stStaticSince);
+        io.Raw(r.ucTimeStatus);
+        io.Reserved(1);
+        io.Raw(r.unObsFlags);
+        io.Raw(r.ucDataFlags);
+        io.Raw(r.ucStationType);
+        io.Reserved(2);
+        io.Raw(r.ulStationId);
+        return io.Reserved(4);
+    }
 
-    uint64_t getSize() const { return c_ulOBSINFO_SIZE; }
+    // Text: the time as GPS week and seconds of week; its reader gives the
+    // default time for a week from 5966 on or seconds out of range, without
+    // a report.
+    template <class IO, class Self> static void VisitText(IO& io, Self& r)
+    {
+        io.Tag("StatSince, ").Form(r.stStaticSince, MJDTXT_GPS_SECONDS);
+        io.Tag(", TimeStatus, ").template Wide<uint32_t>(r.ucTimeStatus);
+        io.Tag(", ObsFlgs, ").template Wide<uint32_t>(r.unObsFlags);
+        io.Tag(", DataFlgs, ").template Wide<uint32_t>(r.ucDataFlags);
+        io.Tag(", StnTyp, ").template Wide<uint32_t>(r.ucStationType);
+        io.Tag(", StnId, ").Value(r.ulStationId);
+    }
+
+    uint64_t getSize() const { return ZelIo::SizeOf(*this); }
     // The used-bytes output is optional, so that the record also serves as
     // an exchange record with the two-argument calls.
-    bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset = nullptr) const;
-    bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset = nullptr);
+    bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset = nullptr) const
+    {
+        return ZelIo::SaveLeaf(*this, pBuffer, uiBufferLength, pulOffset);
+    }
+    bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset = nullptr)
+    {
+        return ZelIo::LoadLeaf(*this, pBuffer, uiBufferLength, pulOffset);
+    }
 
     bool operator==(const SZelObsInfo& rhs) const;
-    bool operator!=(const SZelObsInfo& rhs) const { return !(*this == rhs); }
 };
 
+// The external form of an epoch: the epoch and its station record.
 struct ZELTYPES_API ZelExtObsEpoch
 {
     SZelObservationEpoch stObsEpoch;
@@ -49,18 +85,67 @@ struct ZELTYPES_API ZelExtObsEpoch
 
     uint8_t GetTimeStatus() const { return stObsInfo.ucTimeStatus; }
 
-    // A 32-bit length holding the epoch's size, the epoch, the station record.
+    // Image: a 32-bit length holding the epoch's size, the epoch, the
+    // station record. The two directions differ in the length: the writer
+    // takes it from the epoch, the reader tests the stored one against the
+    // room and reads the epoch within it.
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
+    {
+        if constexpr (IO::c_bLoading)
+        {
+            uint32_t ulEpochSize = 0;
+            io.Raw(ulEpochSize);
+            if (static_cast<uint64_t>(ulEpochSize) + r.stObsInfo.getSize() > io.Remaining())
+            {
+                ZEL_ASSERT(false);
+                return false;
+            }
+            // An epoch image shorter or longer than the stored length is a
+            // failed nested record.
+            uint64_t ulEpochUsed = 0;
+            if (!r.stObsEpoch.loadData(io.Here(), ulEpochSize, &ulEpochUsed) || ulEpochUsed != ulEpochSize)
+            {
+                ZEL_ASSERT(false);
+                return false;
+            }
+            return io.Skip(ulEpochSize) && io.Record(r.stObsInfo, true);
+        }
+        else
+        {
+            // The length field has 32 bits.
+            const uint64_t ulEpochSize = r.stObsEpoch.getSize();
+            if (ulEpochSize >= 0xFFFFFFFFu)
+            {
+                ZEL_ASSERT(false);
+                return false;
+            }
+            return io.template RawAs<uint32_t>(ulEpochSize) && io.Record(r.stObsEpoch) &&
+                   io.Record(r.stObsInfo);
+        }
+    }
+
+    // Text: the epoch, ", ObsInfo, " and the station record.
+    template <class IO, class Self> static void VisitText(IO& io, Self& r)
+    {
+        io.Value(r.stObsEpoch).Tag(", ObsInfo, ").Value(r.stObsInfo);
+    }
+
     uint64_t getSize() const { return stObsEpoch.getSize() + c_ulEXTOBSEPOCH_EXTRA_SIZE; }
-    bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset = nullptr) const;
+    bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset = nullptr) const
+    {
+        return ZelIo::SaveLeaf(*this, pBuffer, uiBufferLength, pulOffset);
+    }
     // The first bounds test looks at the present content, the second at the
     // stored length.
-    bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset = nullptr);
+    bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset = nullptr)
+    {
+        return ZelIo::LoadLeaf(*this, pBuffer, uiBufferLength, pulOffset);
+    }
 
     bool operator==(const ZelExtObsEpoch& rhs) const
     {
         return stObsEpoch == rhs.stObsEpoch && stObsInfo == rhs.stObsInfo;
     }
-    bool operator!=(const ZelExtObsEpoch& rhs) const { return !(*this == rhs); }
 };
 
 ZELTYPES_API std::ostream& operator<<(std::ostream& os, const SZelObsInfo& rstObsInfo);

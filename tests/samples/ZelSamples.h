@@ -1,0 +1,14 @@
+#ifndef ZELTYPES_TESTS_SAMPLES_ZELSAMPLES_H
+#define ZELTYPES_TESTS_SAMPLES_ZELSAMPLES_H
+
+// Sample records with non-default values in every field, shared by the
+// tests, the benchmarks and the fuzzers' seed corpora, so that a record is
+// described once. One header per family.
+
+#include "ZelSamplesCoordinates.h"
+#include "ZelSamplesEphemeris.h"
+#include "ZelSamplesIds.h"
+#include "ZelSamplesObservations.h"
+#include "ZelSamplesTime.h"
+
+#endif
