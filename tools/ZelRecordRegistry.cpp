@@ -1,0 +1,61 @@
+#include "ZelRecordRegistry.h"
+
+#include <ZelTypes/ZelTypesAll.h>
+
+#include "ZelSamples.h"
+
+namespace ZelTools
+{
+
+using namespace ZELN;
+
+const std::vector<SRecordKind>& RecordKinds()
+{
+    // One line per record with a binary form.
+    static const std::vector<SRecordKind> s_vecKinds = {
+        Kind<SMjdTime>("SMjdTime", [] { return ZelSample::Times()[2]; }),
+        Kind<SZelSatID>("SZelSatID", ZelSample::SatId),
+        Kind<SZelFrqTMdID>("SZelFrqTMdID", ZelSample::FrqTMdId),
+        Kind<SZelSatFrqID>("SZelSatFrqID", ZelSample::SatFrqId),
+        Kind<SZelSysFrqID>("SZelSysFrqID", ZelSample::SysFrqId),
+        Kind<SZelSysFrqTMdGroupID>("SZelSysFrqTMdGroupID", ZelSample::SysFrqTMdGroupId),
+        Kind<SZelSatFrqTMdGroupID>("SZelSatFrqTMdGroupID", ZelSample::SatFrqTMdGroupId),
+        Kind<ZelGlonassFrequencies>("ZelGlonassFrequencies", ZelSample::GlonassChannels),
+        Kind<SZelCoordinateTriplet>("SZelCoordinateTriplet", ZelSample::Triplet),
+        Kind<SZelCoordinateSet>("SZelCoordinateSet", ZelSample::CoordinateSet),
+        Kind<SZelSatPosVel>("SZelSatPosVel", ZelSample::SatPosVel),
+        Kind<SZelVector3d>("SZelVector3d", [] { return SZelVector3d(1.5, -2.25, 6378137.0); }),
+        Kind<SZelMasterCoordinate>("SZelMasterCoordinate", ZelSample::MasterCoordinate),
+        Kind<SZelHorizontalOffset>("SZelHorizontalOffset", ZelSample::HorizontalOffset),
+        Kind<SZelSatObservation>("SZelSatObservation",
+                                 [] { return ZelSample::SatObs(ZELSATSYSTEM_GPS, 5, 3); }),
+        Kind<SZelObservationEpochHeader>("SZelObservationEpochHeader", ZelSample::EpochHeader),
+        Kind<SZelObservationEpoch>("SZelObservationEpoch", [] { return ZelSample::ObsEpoch(); }),
+        Kind<SZelRtmeOutEpochData>("SZelRtmeOutEpochData", [] { return ZelSample::RtmeOut(); }),
+        Kind<SZelOutObservations>("SZelOutObservations", ZelSample::OutObservations),
+        Kind<SZelObsInfo>("SZelObsInfo", ZelSample::ObsInfo),
+        Kind<ZelExtObsEpoch>("ZelExtObsEpoch", ZelSample::ExtObsEpoch),
+        Kind<ZELX_SAT_EPHEMERIS_COMMON>("ZELX_SAT_EPHEMERIS_COMMON", ZelSample::KeplerBlock),
+        Kind<ZELX_SAT_EPHEMERIS>("ZELX_SAT_EPHEMERIS", ZelSample::GpsEphemeris),
+        Kind<ZELX_SAT_EPHEMERIS_QZSS>("ZELX_SAT_EPHEMERIS_QZSS", ZelSample::QzssEphemeris),
+        Kind<ZELX_SAT_EPHEMERIS_GLONASS>("ZELX_SAT_EPHEMERIS_GLONASS", ZelSample::GlonassEphemeris),
+        Kind<ZELX_SAT_EPHEMERIS_GALILEO>("ZELX_SAT_EPHEMERIS_GALILEO", ZelSample::GalileoEphemeris),
+        Kind<ZELX_SAT_EPHEMERIS_BEIDOU>("ZELX_SAT_EPHEMERIS_BEIDOU", ZelSample::BeiDouEphemeris),
+        Kind<ZELX_SAT_EPHEMERIS_NAVIC>("ZELX_SAT_EPHEMERIS_NAVIC", ZelSample::NavicEphemeris),
+    };
+    return s_vecKinds;
+}
+
+const SRecordKind* FindRecordKind(const std::string& strName)
+{
+    for (const SRecordKind& rKind : RecordKinds())
+    {
+        if (rKind.strName == strName)
+        {
+            return &rKind;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace ZelTools
