@@ -480,15 +480,8 @@ constexpr WavelengthBoolForm<EZelFrequencyGroup> c_pWavelengthBoolByGroup =
     &CZelFrequencyMgr::GetWavelengthBool;
 constexpr WavelengthBoolForm<uint32_t> c_pWavelengthBoolByBit = &CZelFrequencyMgr::GetWavelengthBool;
 constexpr WavelengthBoolForm<EZelFrequency> c_pWavelengthBoolBySlot = &CZelFrequencyMgr::GetWavelengthBool;
-static_assert(c_pFrequencyByIndex != nullptr && c_pFrequencyByGroup != nullptr &&
-                  c_pFrequencyByBit != nullptr && c_pFrequencyBySlot != nullptr,
-              "GetFrequency has an exact form for int, group, bit and slot");
-static_assert(c_pWavelengthByIndex != nullptr && c_pWavelengthByGroup != nullptr &&
-                  c_pWavelengthByBit != nullptr && c_pWavelengthBySlot != nullptr,
-              "GetWavelength has an exact form for int, group, bit and slot");
-static_assert(c_pWavelengthBoolByIndex != nullptr && c_pWavelengthBoolByGroup != nullptr &&
-                  c_pWavelengthBoolByBit != nullptr && c_pWavelengthBoolBySlot != nullptr,
-              "GetWavelengthBool has an exact form for int, group, bit and slot");
+// Each constant above compiles only where the exact form exists; the tests
+// below call through them.
 
 // A group bit is a uint32_t, and so is a plain unsigned literal.
 static_assert(std::is_same<decltype(ToFrqGroupBit(ZELFREQUENCY_GROUP_3)), uint32_t>::value,
