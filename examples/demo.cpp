@@ -2,6 +2,8 @@
 // through every form the library offers.
 //
 //   zeltypes_demo [gps-week seconds-of-week]
+#include "demo_ssr.h"
+
 #include <ZelTypes/ZelTypesAll.h>
 
 #include <cstdio>
@@ -208,5 +210,8 @@ int main(int argc, char** argv)
 
     const bool bObsOk = ShowObservationRoad();
     ShowEphemerisRoad();
+
+    std::cout << "\n== SSR road\n";
+    DemoSsr(std::cout);
     return bTimeOk && bObsOk ? 0 : 1;
 }

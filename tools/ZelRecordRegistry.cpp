@@ -42,6 +42,22 @@ const std::vector<SRecordKind>& RecordKinds()
         Kind<ZELX_SAT_EPHEMERIS_GALILEO>("ZELX_SAT_EPHEMERIS_GALILEO", ZelSample::GalileoEphemeris),
         Kind<ZELX_SAT_EPHEMERIS_BEIDOU>("ZELX_SAT_EPHEMERIS_BEIDOU", ZelSample::BeiDouEphemeris),
         Kind<ZELX_SAT_EPHEMERIS_NAVIC>("ZELX_SAT_EPHEMERIS_NAVIC", ZelSample::NavicEphemeris),
+        Kind<SSRCorrMsgHeader>("SSRCorrMsgHeader", ZelSample::SsrHeader),
+        Kind<SSROrbitCorr>("SSROrbitCorr", [] { return ZelSample::SsrOrbitCorr(); }),
+        Kind<SSRClockCorr>("SSRClockCorr", [] { return ZelSample::SsrClockCorr(); }),
+        Kind<SSRHighRateClock>("SSRHighRateClock", [] { return ZelSample::SsrHighRateClock(); }),
+        Kind<SSRURA>("SSRURA", [] { return ZelSample::SsrUra(); }),
+        Kind<SSRBias>("SSRBias", [] { return ZelSample::SsrBias(); }),
+        Kind<SSRPhaseBias>("SSRPhaseBias", [] { return ZelSample::SsrPhaseBias(); }),
+        Kind<SSRPCV>("SSRPCV", [] { return ZelSample::SsrPcv(); }),
+        Kind<SSROrbitCorrMsgT>("SSROrbitCorrMsgT", ZelSample::SsrOrbitMsg),
+        Kind<SSRClockCorrMsgT>("SSRClockCorrMsgT", ZelSample::SsrClockMsg),
+        Kind<SSRHighRateClockMsgT>("SSRHighRateClockMsgT", ZelSample::SsrHighRateClockMsg),
+        Kind<SSRCodeBiasMsgT>("SSRCodeBiasMsgT", ZelSample::SsrCodeBiasMsg),
+        Kind<SSRPhaseBiasMsgT>("SSRPhaseBiasMsgT", ZelSample::SsrPhaseBiasMsg),
+        Kind<SSRURAMsgT>("SSRURAMsgT", ZelSample::SsrUraMsg),
+        Kind<SSRSignalMsgT>("SSRSignalMsgT", ZelSample::SsrSignalMsg),
+        Kind<SSRPCVMsgT>("SSRPCVMsgT", ZelSample::SsrPcvMsg),
     };
     return s_vecKinds;
 }

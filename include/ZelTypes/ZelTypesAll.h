@@ -14,6 +14,8 @@
 #include <ZelTypes/Core/Common/ZelObsEpoch.h>
 #include <ZelTypes/Core/Common/ZelObsInfo.h>
 #include <ZelTypes/Core/Common/ZelRecordIO.h>
+#include <ZelTypes/Core/Common/ZelSSRTypes.h>
+#include <ZelTypes/Core/Common/ZelSSRTypesSerialization.h>
 #include <ZelTypes/Core/Common/ZelTimeBlockIO.h>
 #include <ZelTypes/Core/Common/ZelTypesIDs.h>
 #include <ZelTypes/Core/Common/ZelTypesObs.h>

@@ -9,6 +9,7 @@
 #include "ZelSamplesEphemeris.h"
 #include "ZelSamplesIds.h"
 #include "ZelSamplesObservations.h"
+#include "ZelSamplesSsr.h"
 #include "ZelSamplesTime.h"
 
 #endif
