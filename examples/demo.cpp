@@ -2,6 +2,7 @@
 // through every form the library offers.
 //
 //   zeltypes_demo [gps-week seconds-of-week]
+#include "demo_ins.h"
 #include "demo_ssr.h"
 
 #include <ZelTypes/ZelTypesAll.h>
@@ -213,5 +214,8 @@ int main(int argc, char** argv)
 
     std::cout << "\n== SSR road\n";
     DemoSsr(std::cout);
+
+    std::cout << "\n== inertial road\n";
+    DemoIns(std::cout);
     return bTimeOk && bObsOk ? 0 : 1;
 }

@@ -156,8 +156,15 @@ TEST(Registry, EveryPublicRecordWithAnImageIsRegistered)
         }
     }
     EXPECT_GE(setWithImage.size(), 20u);
+    // Abstract common parts: no record of them can be made; their images
+    // stand inside every registered record derived from them.
+    const std::set<std::string> setAbstract = {"CL_ZELX_INS_SENSOR_CFG", "CL_ZELX_INS_SENSOR_OBS"};
     for (const std::string& strName : setWithImage)
     {
+        if (setAbstract.count(strName) != 0)
+        {
+            continue;
+        }
         EXPECT_NE(nullptr, ZelTools::FindRecordKind(strName)) << strName << " is missing from the registry";
     }
 }

@@ -20,9 +20,20 @@
 #include <ZelTypes/Core/Common/ZelTypesIDs.h>
 #include <ZelTypes/Core/Common/ZelTypesObs.h>
 #include <ZelTypes/Core/Common/mjdTime.h>
+#include <ZelTypes/Core/Ins/ZelInsGenericState.h>
+#include <ZelTypes/Core/Ins/ZelInsObservable.h>
+#include <ZelTypes/Core/Ins/ZelInsStates.h>
+#include <ZelTypes/Core/Ins/ZelInsTools.h>
+#include <ZelTypes/Core/Ins/ZelInsTypesImpl.h>
+#include <ZelTypes/Core/Ins/ZelInsUtilities.h>
 #include <ZelTypes/Ext/Common/ZelExtCoordTypes.h>
 #include <ZelTypes/Ext/Common/ZelExtMiscTypes.h>
 #include <ZelTypes/Ext/Gnss/ZelExtEphTypes.h>
 #include <ZelTypes/Ext/Gnss/ZelExtObsTypes.h>
+#include <ZelTypes/Ext/Ins/ZelExtInsCfgTypes.h>
+#include <ZelTypes/Ext/Ins/ZelExtInsMiscTypes.h>
+#include <ZelTypes/Ext/Ins/ZelExtInsMiscTypesSerialization.h>
+#include <ZelTypes/Ext/Ins/ZelExtInsResTypes.h>
+#include <ZelTypes/Ext/Ins/ZelExtInsSenTypes.h>
 
 #endif

@@ -8,6 +8,7 @@
 #include "ZelSamplesCoordinates.h"
 #include "ZelSamplesEphemeris.h"
 #include "ZelSamplesIds.h"
+#include "ZelSamplesIns.h"
 #include "ZelSamplesObservations.h"
 #include "ZelSamplesSsr.h"
 #include "ZelSamplesTime.h"
