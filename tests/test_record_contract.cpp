@@ -1,5 +1,6 @@
 // The record contract, exercised through test-local records that use the
 // shared helpers the way every record of the library does.
+#include "ZelAllocCounter.h"
 #include "ZelTestKit.h"
 
 #include <ZelTypes/Core/Common/ZelCompare.h>
@@ -714,48 +715,15 @@ TEST(RecordStatement, ComparisonStyles)
 
 namespace
 {
-std::atomic<bool> s_bCounting(false);
-std::atomic<uint64_t> s_ulAllocated(0);
-} // namespace
-
-// Every allocation of this test program is counted while counting is on.
-void* operator new(std::size_t ulSize)
-{
-    if (s_bCounting.load(std::memory_order_relaxed))
-    {
-        s_ulAllocated += ulSize;
-    }
-    void* p = std::malloc(ulSize != 0 ? ulSize : 1);
-    if (p == nullptr)
-    {
-        throw std::bad_alloc();
-    }
-    return p;
-}
-void operator delete(void* p) noexcept
-{
-    std::free(p);
-}
-void operator delete(void* p, std::size_t) noexcept
-{
-    std::free(p);
-}
-
-namespace
-{
 // Bytes allocated by fnRead.
 template <class F> uint64_t Allocated(F fnRead)
 {
-    s_ulAllocated = 0;
-    s_bCounting = true;
-    fnRead();
-    s_bCounting = false;
-    return s_ulAllocated.load();
+    return ZelTest::CountAllocations(fnRead).ulBytes;
 }
 
 uint64_t Bound(uint64_t ulBytes)
 {
-    return ZelIo::c_ulALLOC_FACTOR * ulBytes + ZelIo::c_ulALLOC_CONSTANT;
+    return ZelTest::AllocBound(ulBytes);
 }
 } // namespace
 

@@ -71,8 +71,9 @@ TEST(Registry, EveryKindRoundTripsADefaultAndASample)
         const std::unique_ptr<IRecordBox> pSample = rKind.fnSample();
         ExpectImageRoundTrip(*pSample, rKind);
         ExpectTextRoundTrip(*pSample, rKind);
+        EXPECT_EQ(0u, stHook.Count()) << ::testing::PrintToString(stHook.Texts());
+        // Some equalities report a comparison of two different satellites.
         EXPECT_FALSE(pSample->Equals(*pDefault)) << "the sample differs from the default";
-        EXPECT_EQ(0u, stHook.Count());
         // A default record may be one whose writer reports (a satellite of
         // no system, say): only its reading back is asked of it.
         std::vector<unsigned char> vecImage;
@@ -158,7 +159,8 @@ TEST(Registry, EveryPublicRecordWithAnImageIsRegistered)
     EXPECT_GE(setWithImage.size(), 20u);
     // Abstract common parts: no record of them can be made; their images
     // stand inside every registered record derived from them.
-    const std::set<std::string> setAbstract = {"CL_ZELX_INS_SENSOR_CFG", "CL_ZELX_INS_SENSOR_OBS"};
+    const std::set<std::string> setAbstract = {"CL_ZELX_INS_SENSOR_CFG", "CL_ZELX_INS_SENSOR_OBS",
+                                              "ZELX_SAT_ALMANAC_COMMON"};
     for (const std::string& strName : setWithImage)
     {
         if (setAbstract.count(strName) != 0)

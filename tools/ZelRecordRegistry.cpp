@@ -80,6 +80,19 @@ const std::vector<SRecordKind>& RecordKinds()
         Kind<SZelInsResStateEx>("SZelInsResStateEx", ZelSample::InsResStateEx),
         Kind<SZelInsResHeader>("SZelInsResHeader", ZelSample::InsResHeader),
         Kind<SZelInsResRecord>("SZelInsResRecord", ZelSample::InsResRecord),
+        Kind<ZELX_SAT_ALMANAC>("ZELX_SAT_ALMANAC", ZelSample::SampleAlmanacGps),
+        Kind<ZELX_SAT_ALMANAC_QZSS>("ZELX_SAT_ALMANAC_QZSS", ZelSample::SampleAlmanacQzss),
+        Kind<ZELX_SAT_ALMANAC_GALILEO>("ZELX_SAT_ALMANAC_GALILEO", ZelSample::SampleAlmanacGalileo),
+        Kind<ZELX_SAT_ALMANAC_BEIDOU>("ZELX_SAT_ALMANAC_BEIDOU", ZelSample::SampleAlmanacBeiDou),
+        Kind<ZELX_SAT_ALMANAC_NAVIC>("ZELX_SAT_ALMANAC_NAVIC", ZelSample::SampleAlmanacNavic),
+        Kind<ZELX_SAT_ALMANAC_GLONASS>("ZELX_SAT_ALMANAC_GLONASS", ZelSample::SampleAlmanacGlonass),
+        Kind<SZelKlobucharCoefficients>("SZelKlobucharCoefficients", ZelSample::SampleKlobuchar),
+        Kind<SZelOrbPoly>("SZelOrbPoly", ZelSample::SampleOrbPoly),
+        Kind<ZELX_ORBIT_SAT_TABLE>("ZELX_ORBIT_SAT_TABLE", ZelSample::SampleOrbitSatTable),
+        Kind<ZELX_ORBIT_FRAME_TRANSFORM>("ZELX_ORBIT_FRAME_TRANSFORM", ZelSample::SampleFrameTransform),
+        Kind<ZELX_SAT_STATE_ENTRY>("ZELX_SAT_STATE_ENTRY", [] { return ZelSample::SampleStateEntry(3); }),
+        Kind<ZELX_SAT_STATE_EPOCH>("ZELX_SAT_STATE_EPOCH", [] { return ZelSample::SampleStateEpoch(900.0); }),
+        Kind<ZELX_SAT_STATE_TABLE>("ZELX_SAT_STATE_TABLE", ZelSample::SampleStateTable),
     };
     return s_vecKinds;
 }

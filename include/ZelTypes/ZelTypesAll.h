@@ -18,7 +18,9 @@
 #include <ZelTypes/Core/Common/ZelSSRTypesSerialization.h>
 #include <ZelTypes/Core/Common/ZelTimeBlockIO.h>
 #include <ZelTypes/Core/Common/ZelTypesIDs.h>
+#include <ZelTypes/Core/Common/ZelTypesKlob.h>
 #include <ZelTypes/Core/Common/ZelTypesObs.h>
+#include <ZelTypes/Core/Common/ZelTypesOrbPoly.h>
 #include <ZelTypes/Core/Common/mjdTime.h>
 #include <ZelTypes/Core/Ins/ZelInsGenericState.h>
 #include <ZelTypes/Core/Ins/ZelInsObservable.h>
@@ -28,12 +30,15 @@
 #include <ZelTypes/Core/Ins/ZelInsUtilities.h>
 #include <ZelTypes/Ext/Common/ZelExtCoordTypes.h>
 #include <ZelTypes/Ext/Common/ZelExtMiscTypes.h>
+#include <ZelTypes/Ext/Gnss/ZelExtAlmTypes.h>
 #include <ZelTypes/Ext/Gnss/ZelExtEphTypes.h>
 #include <ZelTypes/Ext/Gnss/ZelExtObsTypes.h>
+#include <ZelTypes/Ext/Gnss/ZelExtOrbTypes.h>
 #include <ZelTypes/Ext/Ins/ZelExtInsCfgTypes.h>
 #include <ZelTypes/Ext/Ins/ZelExtInsMiscTypes.h>
 #include <ZelTypes/Ext/Ins/ZelExtInsMiscTypesSerialization.h>
 #include <ZelTypes/Ext/Ins/ZelExtInsResTypes.h>
 #include <ZelTypes/Ext/Ins/ZelExtInsSenTypes.h>
+#include <ZelTypes/Platform/OmtTime.h>
 
 #endif

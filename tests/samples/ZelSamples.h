@@ -5,11 +5,14 @@
 // tests, the benchmarks and the fuzzers' seed corpora, so that a record is
 // described once. One header per family.
 
+#include "ZelSamplesAlmanacs.h"
 #include "ZelSamplesCoordinates.h"
 #include "ZelSamplesEphemeris.h"
 #include "ZelSamplesIds.h"
 #include "ZelSamplesIns.h"
+#include "ZelSamplesIonoUtc.h"
 #include "ZelSamplesObservations.h"
+#include "ZelSamplesOrbits.h"
 #include "ZelSamplesSsr.h"
 #include "ZelSamplesTime.h"
 

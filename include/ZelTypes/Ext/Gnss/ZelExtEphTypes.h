@@ -9,6 +9,7 @@
 #include <ZelTypes/Ext/Gnss/ZelExtEphGlonass.h>
 #include <ZelTypes/Ext/Gnss/ZelExtEphGps.h>
 #include <ZelTypes/Ext/Gnss/ZelExtEphNavic.h>
+#include <ZelTypes/Ext/Gnss/ZelExtEphStates.h>
 #include <ZelTypes/Ext/Gnss/ZelExtEphQzss.h>
 #include <ZelTypes/Ext/Gnss/ZelExtEphSbas.h>
 

@@ -1,0 +1,159 @@
+#ifndef ZELTYPES_EXT_GNSS_ZELEXTEPHSTATES_H
+#define ZELTYPES_EXT_GNSS_ZELEXTEPHSTATES_H
+
+// Tabulated satellite states: per epoch, per satellite, a position and a
+// clock value, each present or not. Epochs and tables are sequences whose
+// images carry 64-bit counts.
+
+#include <ZelTypes/Core/Common/ZelAssert.h>
+#include <ZelTypes/Core/Common/ZelCompare.h>
+#include <ZelTypes/Core/Common/ZelCoordinateTriplet.h>
+#include <ZelTypes/Core/Common/ZelExport.h>
+#include <ZelTypes/Core/Common/ZelRecordIO.h>
+#include <ZelTypes/Core/Common/ZelTypesIDs.h>
+#include <ZelTypes/Core/Common/mjdTime.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <type_traits>
+#include <vector>
+
+namespace ZELN
+{
+
+namespace ZelStateIo
+{
+
+// A sequence with a 64-bit count, then each element's own Ext image. The
+// reader sizes the sequence to the count where the remaining bytes can hold
+// it and grows it element by element beyond, so that a forged count fails
+// where the buffer ends; an element that fails is reported here once more.
+template <class IO, class Seq> bool Sequence64(IO& io, Seq& rSeq)
+{
+    using T = typename std::remove_const_t<Seq>::value_type;
+    if constexpr (IO::c_bLoading)
+    {
+        uint64_t ullCount = 0;
+        if (!io.Raw(ullCount))
+        {
+            return false;
+        }
+        const uint64_t ullCanHold = io.Remaining() / ZelIo::MinImageSize<T>();
+        rSeq.resize(static_cast<size_t>(std::min(ullCount, ullCanHold)));
+        for (uint64_t ullIdx = 0; ullIdx < ullCount; ++ullIdx)
+        {
+            if (ullIdx >= rSeq.size())
+            {
+                rSeq.emplace_back();
+            }
+            if (!io.ExtRecord(rSeq[static_cast<size_t>(ullIdx)]))
+            {
+                return false;
+            }
+        }
+        return true;
+    }
+    else
+    {
+        io.Raw(static_cast<uint64_t>(rSeq.size()));
+        for (const T& rElem : rSeq)
+        {
+            if (!io.ExtRecord(rElem))
+            {
+                return false;
+            }
+        }
+        return true;
+    }
+}
+
+} // namespace ZelStateIo
+
+// One satellite at one epoch.
+struct ZELTYPES_API ZELX_SAT_STATE_ENTRY
+{
+    static constexpr uint32_t c_ulCONTENT_POSITION = 0x01; // stPosition holds
+    static constexpr uint32_t c_ulCONTENT_CLOCK = 0x02;    // dClock holds
+
+    uint8_t ucSatellite = 0; // a number of the satellite, the producer's
+    uint32_t ulContent = 0;
+    SZelCoordinateTriplet stPosition; // frame and unit as its tag says
+    double dClock = 0.0;              // clock value, the producer's unit
+
+    // ucSatellite at 0, ulContent at 1, stPosition at 5, dClock at 33: 41 bytes.
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
+    {
+        io.Raw(r.ucSatellite);
+        io.Raw(r.ulContent);
+        io.Record(r.stPosition);
+        return io.Raw(r.dClock);
+    }
+
+    uint64_t getSize() const { return ZelIo::SizeOf(*this); }
+    bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength) const;
+    bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength);
+};
+
+// Satellite and content exactly; the position and the clock at a relative
+// 1e-14 where the content says they hold, and not at all otherwise.
+ZELTYPES_API bool operator==(const ZELX_SAT_STATE_ENTRY& a, const ZELX_SAT_STATE_ENTRY& b);
+
+// The satellites of one system at one epoch.
+struct ZELTYPES_API ZELX_SAT_STATE_EPOCH
+{
+    SMjdTime stTime;
+    std::vector<ZELX_SAT_STATE_ENTRY> vecEntries;
+
+    ZELX_SAT_STATE_EPOCH() = default;
+    // One default entry per satellite number of the system and one more;
+    // none for system 0.
+    ZELX_SAT_STATE_EPOCH(EZelSatSystem eSatSystem, const SMjdTime& rstTime);
+
+    // Storage is held, whether or not entries are.
+    bool hasStorage() const { return vecEntries.capacity() != 0; }
+
+    // stTime at 0, the entry count in 64 bits at 16, the entries at 24.
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
+    {
+        io.Record(r.stTime);
+        return ZelStateIo::Sequence64(io, r.vecEntries);
+    }
+
+    uint64_t getSize() const { return ZelIo::SizeOf(*this); }
+    bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength) const;
+    // The buffer must hold the 24 bytes of the head; each entry tests its own.
+    bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength);
+};
+
+// Times apart by less than 1 ms, the same entries in the same order.
+ZELTYPES_API bool operator==(const ZELX_SAT_STATE_EPOCH& a, const ZELX_SAT_STATE_EPOCH& b);
+
+// The epochs of one system.
+struct ZELTYPES_API ZELX_SAT_STATE_TABLE
+{
+    uint32_t ulSatSystem = ZELSATSYSTEM_NONE; // system code
+    std::vector<ZELX_SAT_STATE_EPOCH> vecEpochs;
+
+    ZELX_SAT_STATE_TABLE() = default;
+    // ulNbEpochs default epochs.
+    ZELX_SAT_STATE_TABLE(uint32_t ulSatSystemValue, size_t ulNbEpochs);
+
+    // ulSatSystem at 0, the epoch count in 64 bits at 4, the epochs at 12.
+    template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
+    {
+        io.Raw(r.ulSatSystem);
+        return ZelStateIo::Sequence64(io, r.vecEpochs);
+    }
+
+    uint64_t getSize() const { return ZelIo::SizeOf(*this); }
+    bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength) const;
+    // The buffer must hold the 12 bytes of the head; each epoch tests its own.
+    bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength);
+};
+
+// The same epochs in the same order; the system takes no part.
+ZELTYPES_API bool operator==(const ZELX_SAT_STATE_TABLE& a, const ZELX_SAT_STATE_TABLE& b);
+
+} // namespace ZELN
+
+#endif
