@@ -793,3 +793,39 @@ TEST(ReaderAllocation, ForgedCountOfATextSequence)
     EXPECT_EQ(4096u, ZelIo::TextPresizeMax<STestLeaf>());
     EXPECT_EQ(1, st.vecLeaves[0].unKey);
 }
+
+TEST(ReaderAllocation, ForgedCountOfAnExtSequence)
+{
+    // A 64-bit count of 2^64-1, then two 6-byte Ext images.
+    ZelTest::CImage stImage;
+    stImage.U64(0xFFFFFFFFFFFFFFFFull).U8(3).F32(1.5f).U8(1).U8(3).F32(2.5f).U8(0);
+    std::vector<STestExt> vecRecords;
+    uint64_t ulOffset = 0;
+    ZelTest::CRecordingHook Hook;
+    bool bOk = true;
+    const uint64_t ulBytes = Allocated(
+        [&]
+        {
+            ZelIo::CBinReader stIn(stImage.Get().data(), stImage.Size(), &ulOffset);
+            bOk = stIn.Begin(0) && stIn.ExtSequence<uint64_t>(vecRecords);
+        });
+    EXPECT_FALSE(bOk);
+    EXPECT_LE(ulBytes, Bound(stImage.Size()));
+    // Two read, the third fails where the buffer ends: its own "false" and
+    // the sequence's.
+    ASSERT_EQ(3u, vecRecords.size());
+    EXPECT_EQ(2.5f, vecRecords[1].fValue);
+    EXPECT_EQ(ZelTest::Falses(2), Hook.Texts());
+    EXPECT_EQ(20u, ulOffset);
+
+    // Written back with its count, sized by the statement.
+    vecRecords.pop_back();
+    std::vector<unsigned char> vecOut(20, 0xAA);
+    ZelIo::CBinWriter stOut(vecOut.data(), vecOut.size(), &ulOffset);
+    ASSERT_TRUE(stOut.Begin(20));
+    EXPECT_TRUE(stOut.ExtSequence<uint64_t>(vecRecords));
+    EXPECT_EQ(ZelTest::Bytes(ZelTest::CImage().U64(2).U8(3).F32(1.5f).U8(1).U8(3).F32(2.5f).U8(0)), vecOut);
+    ZelIo::CBinSizer stSizer;
+    stSizer.ExtSequence<uint64_t>(vecRecords);
+    EXPECT_EQ(20u, stSizer.Size());
+}

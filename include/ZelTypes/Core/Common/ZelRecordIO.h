@@ -58,6 +58,7 @@ template <class T> constexpr bool IsFixedEnum()
 //     io.ExtRecord(rCommonPart);            a nested Ext image
 //     io.Inline(r.stKey);                   a nested record's fields, no own test
 //     io.Sequence(r.vecSats);               count, then each element
+//     io.template ExtSequence<uint64_t>(v); count, then each Ext element
 //     io.SortedSequence(r.vecRecs);         the same, sorted after reading
 //     io.RawSequence(r.vecValues);          count, then plain values
 //     io.Map(r.mapValues);                  count, then key and value per entry
@@ -115,7 +116,7 @@ template <class T> inline uint64_t MinImageSize()
 
 // The elements a sequence is given before its elements are read: the count
 // when the remaining bytes can hold it, else what they can hold.
-inline uint64_t PresizeCount(uint32_t ulCount, uint64_t ulRemaining, uint64_t ulMinImage)
+inline uint64_t PresizeCount(uint64_t ulCount, uint64_t ulRemaining, uint64_t ulMinImage)
 {
     const uint64_t ulCanHold = ulRemaining / ulMinImage;
     return ulCount <= ulCanHold ? ulCount : ulCanHold;
@@ -336,6 +337,19 @@ public:
         return !m_bOverrun;
     }
 
+    template <class TCount = uint32_t, class Seq> bool ExtSequence(const Seq& rSeq)
+    {
+        Raw(static_cast<TCount>(rSeq.size()));
+        for (const auto& rElem : rSeq)
+        {
+            if (!ExtRecord(rElem))
+            {
+                return false;
+            }
+        }
+        return !m_bOverrun;
+    }
+
     // A sequence kept sorted: written as it stands.
     template <class Seq> bool SortedSequence(const Seq& rSeq, bool bReport = true)
     {
@@ -511,27 +525,24 @@ public:
     // grows as elements are read, up to the one where the buffer ends.
     template <class Seq> bool Sequence(Seq& rSeq, bool bReport = false)
     {
-        using T = typename Seq::value_type;
         uint32_t ulCount = 0;
         if (!Count(ulCount))
         {
             return false;
         }
-        const uint64_t ulPresize = PresizeCount(ulCount, Remaining(), MinImageSize<T>());
-        ReserveForOneMore(rSeq, ulCount, ulPresize);
-        rSeq.resize(static_cast<size_t>(ulPresize));
-        for (uint64_t ulIdx = 0; ulIdx < ulCount; ++ulIdx)
+        return Elements(rSeq, ulCount, [this, bReport](auto& rElem) { return Record(rElem, bReport); });
+    }
+
+    // A sequence of Ext records behind a count of TCount (32 or 64 bits);
+    // an element that fails is reported here once more.
+    template <class TCount = uint32_t, class Seq> bool ExtSequence(Seq& rSeq)
+    {
+        TCount tCount = 0;
+        if (!Raw(tCount))
         {
-            if (ulIdx >= rSeq.size())
-            {
-                rSeq.emplace_back();
-            }
-            if (!Record(rSeq[static_cast<size_t>(ulIdx)], bReport))
-            {
-                return false;
-            }
+            return false;
         }
-        return true;
+        return Elements(rSeq, static_cast<uint64_t>(tCount), [this](auto& rElem) { return ExtRecord(rElem); });
     }
 
     // A sorted sequence sorts itself after its last element, so that its
@@ -607,7 +618,28 @@ private:
     // A count beyond what the bytes hold can add one element after the
     // presized ones (the one where the buffer ends); room for it is made at
     // once, so that the vector never grows by reallocation.
-    template <class Seq> static void ReserveForOneMore(Seq& rSeq, uint32_t ulCount, uint64_t ulPresize)
+    // The elements of a sequence after its count, sized as Sequence says.
+    template <class Seq, class F> bool Elements(Seq& rSeq, uint64_t ulCount, F fnRead)
+    {
+        using T = typename Seq::value_type;
+        const uint64_t ulPresize = PresizeCount(ulCount, Remaining(), MinImageSize<T>());
+        ReserveForOneMore(rSeq, ulCount, ulPresize);
+        rSeq.resize(static_cast<size_t>(ulPresize));
+        for (uint64_t ulIdx = 0; ulIdx < ulCount; ++ulIdx)
+        {
+            if (ulIdx >= rSeq.size())
+            {
+                rSeq.emplace_back();
+            }
+            if (!fnRead(rSeq[static_cast<size_t>(ulIdx)]))
+            {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    template <class Seq> static void ReserveForOneMore(Seq& rSeq, uint64_t ulCount, uint64_t ulPresize)
     {
         if (ulCount > ulPresize && rSeq.capacity() < ulPresize + 1)
         {
@@ -659,6 +691,15 @@ public:
         return true;
     }
     template <class Seq> bool SortedSequence(const Seq& rSeq, bool = true) { return Sequence(rSeq); }
+    template <class TCount = uint32_t, class Seq> bool ExtSequence(const Seq& rSeq)
+    {
+        Add(sizeof(TCount));
+        for (const auto& rElem : rSeq)
+        {
+            Add(rElem.getSize());
+        }
+        return true;
+    }
     template <class Seq> bool RawSequence(const Seq& rSeq)
     {
         return Add(4 + rSeq.size() * sizeof(typename Seq::value_type));

@@ -21,54 +21,6 @@
 namespace ZELN
 {
 
-namespace ZelStateIo
-{
-
-// A sequence with a 64-bit count, then each element's own Ext image. The
-// reader sizes the sequence to the count where the remaining bytes can hold
-// it and grows it element by element beyond, so that a forged count fails
-// where the buffer ends; an element that fails is reported here once more.
-template <class IO, class Seq> bool Sequence64(IO& io, Seq& rSeq)
-{
-    using T = typename std::remove_const_t<Seq>::value_type;
-    if constexpr (IO::c_bLoading)
-    {
-        uint64_t ullCount = 0;
-        if (!io.Raw(ullCount))
-        {
-            return false;
-        }
-        const uint64_t ullCanHold = io.Remaining() / ZelIo::MinImageSize<T>();
-        rSeq.resize(static_cast<size_t>(std::min(ullCount, ullCanHold)));
-        for (uint64_t ullIdx = 0; ullIdx < ullCount; ++ullIdx)
-        {
-            if (ullIdx >= rSeq.size())
-            {
-                rSeq.emplace_back();
-            }
-            if (!io.ExtRecord(rSeq[static_cast<size_t>(ullIdx)]))
-            {
-                return false;
-            }
-        }
-        return true;
-    }
-    else
-    {
-        io.Raw(static_cast<uint64_t>(rSeq.size()));
-        for (const T& rElem : rSeq)
-        {
-            if (!io.ExtRecord(rElem))
-            {
-                return false;
-            }
-        }
-        return true;
-    }
-}
-
-} // namespace ZelStateIo
-
 // One satellite at one epoch.
 struct ZELTYPES_API ZELX_SAT_STATE_ENTRY
 {
@@ -116,7 +68,7 @@ struct ZELTYPES_API ZELX_SAT_STATE_EPOCH
     template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
     {
         io.Record(r.stTime);
-        return ZelStateIo::Sequence64(io, r.vecEntries);
+        return io.template ExtSequence<uint64_t>(r.vecEntries);
     }
 
     uint64_t getSize() const { return ZelIo::SizeOf(*this); }
@@ -142,7 +94,7 @@ struct ZELTYPES_API ZELX_SAT_STATE_TABLE
     template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
     {
         io.Raw(r.ulSatSystem);
-        return ZelStateIo::Sequence64(io, r.vecEpochs);
+        return io.template ExtSequence<uint64_t>(r.vecEpochs);
     }
 
     uint64_t getSize() const { return ZelIo::SizeOf(*this); }
