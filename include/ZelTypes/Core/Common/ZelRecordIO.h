@@ -542,7 +542,8 @@ public:
         {
             return false;
         }
-        return Elements(rSeq, static_cast<uint64_t>(tCount), [this](auto& rElem) { return ExtRecord(rElem); });
+        return Elements(rSeq, static_cast<uint64_t>(tCount),
+                        [this](auto& rElem) { return ExtRecord(rElem); });
     }
 
     // A sorted sequence sorts itself after its last element, so that its
