@@ -179,9 +179,8 @@ bool SSRCorrMsgBaseT::IsCollection() const
 bool SSRCorrMsgBaseT::MergeMsg(const SSRCorrMsgBaseT& rstNewMsg, bool)
 {
     // The check text is spelt as it stands.
-    // clang-format off
-    ZEL_ASSERT(CompareUpdIntv( rstNewMsg ) == ZELN::SSRCorrMsgBaseT::eConstEqual);
-    // clang-format on
+    ZEL_ASSERT_TEXT(CompareUpdIntv(rstNewMsg) == ZELN::SSRCorrMsgBaseT::eConstEqual,
+                    "CompareUpdIntv( rstNewMsg ) == ZELN::SSRCorrMsgBaseT::eConstEqual");
     return false;
 }
 
@@ -229,10 +228,8 @@ uint32_t SSRCorrMsgBaseT::GetRefSeconds(const SMjdTime& rstTime, uint8_t ucUIRef
     case c_ucSSR_UIREF_GPS_WEEK_SECONDS:
         // A week count from 7101 on does not fit 32-bit seconds: reported,
         // and the wrapped value is used.
-        // The check text is spelt as it stands.
-        // clang-format off
-        ZEL_ASSERT(~ulResult / (c_ulSEC_PER_WEEK+1) > unGPSWeek);
-        // clang-format on
+        ZEL_ASSERT_TEXT(~ulResult / (c_ulSEC_PER_WEEK + 1) > unGPSWeek,
+                        "~ulResult / (c_ulSEC_PER_WEEK+1) > unGPSWeek");
         ulResult = unGPSWeek * c_ulSEC_PER_WEEK + stGrid.ulMsOfWeek / 1000u;
         return ulResult;
     case c_ucSSR_UIREF_DAY_SECONDS:

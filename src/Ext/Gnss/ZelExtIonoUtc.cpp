@@ -73,9 +73,8 @@ bool ZELX_LEAPSEC_UTC::isValid() const
 {
     // The invariants are reported only; the count in force decides.
     ZEL_ASSERT(EffectivityTime != SMjdTime() || iDeltaTlsf == -1);
-    // clang-format off
-    ZEL_ASSERT(UTCRefTime != SMjdTime() || (dA0 == 0.0 && dA1 == 0.0 ));
-    // clang-format on
+    ZEL_ASSERT_TEXT(UTCRefTime != SMjdTime() || (dA0 == 0.0 && dA1 == 0.0),
+                    "UTCRefTime != SMjdTime() || (dA0 == 0.0 && dA1 == 0.0 )");
     return iDeltaTls > 0;
 }
 

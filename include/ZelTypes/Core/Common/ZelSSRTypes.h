@@ -994,9 +994,10 @@ private:
 template <class T> bool SSRCorrCollctnMsgT<T>::MergeMsg(const SSRCorrMsgBaseT& rstNewMsg, bool bOverwrite)
 {
     // The check text is spelt as it stands.
-    // clang-format off
-    ZEL_ASSERT(oHeader.stSSRUICfg.GetSsrIntervalDefinition() == rstNewMsg.oHeader.stSSRUICfg.GetSsrIntervalDefinition());
-    // clang-format on
+    ZEL_ASSERT_TEXT(oHeader.stSSRUICfg.GetSsrIntervalDefinition() ==
+                        rstNewMsg.oHeader.stSSRUICfg.GetSsrIntervalDefinition(),
+                    "oHeader.stSSRUICfg.GetSsrIntervalDefinition() == "
+                    "rstNewMsg.oHeader.stSSRUICfg.GetSsrIntervalDefinition()");
     if (oHeader.stSSRUICfg.GetSsrIntervalDefinition() != c_ucSSR_INTERVAL_DEF_NO_TEST &&
         CompareUpdIntv(rstNewMsg) != eConstEqual)
     {

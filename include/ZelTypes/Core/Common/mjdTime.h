@@ -225,10 +225,7 @@ struct SMjdTime
     // clamps and never refuses.
     void SetMjdDay(int32_t lMjdDay)
     {
-        // The check text is spelt as it stands.
-        // clang-format off
-        ZEL_ASSERT(lMjdDay>=0);
-        // clang-format on
+        ZEL_ASSERT_TEXT(lMjdDay >= 0, "lMjdDay>=0");
         ZEL_ASSERT(static_cast<unsigned int>(lMjdDay) < c_ulMAX_MJD_DAY);
         m_lMjdDay = lMjdDay;
     }
@@ -243,10 +240,7 @@ struct SMjdTime
 
     void SetMjdDayMilliseconds(int32_t lMjdDay, double dMjdMilliseconds)
     {
-        // The check text is spelt as it stands.
-        // clang-format off
-        ZEL_ASSERT(lMjdDay>=0);
-        // clang-format on
+        ZEL_ASSERT_TEXT(lMjdDay >= 0, "lMjdDay>=0");
         ZEL_ASSERT((static_cast<unsigned int>(lMjdDay) < c_ulMAX_MJD_DAY) &&
                    (dMjdMilliseconds < c_ulMSEC_PER_DAY));
         m_lMjdDay = lMjdDay;
@@ -255,10 +249,7 @@ struct SMjdTime
 
     void SetMjdDayFract(int32_t lMjdDay, double dFractDay)
     {
-        // The check text is spelt as it stands.
-        // clang-format off
-        ZEL_ASSERT(lMjdDay>=0);
-        // clang-format on
+        ZEL_ASSERT_TEXT(lMjdDay >= 0, "lMjdDay>=0");
         ZEL_ASSERT((static_cast<unsigned int>(lMjdDay) < c_ulMAX_MJD_DAY) && dFractDay < 1.0 &&
                    dFractDay >= 0.0);
         m_lMjdDay = lMjdDay;
@@ -270,14 +261,9 @@ struct SMjdTime
     void AddDays(int32_t lDays)
     {
         m_lMjdDay = MjdDetail::AddWrap(m_lMjdDay, lDays);
-        // The check text is spelt as it stands.
-        // clang-format off
-        ZEL_ASSERT(m_lMjdDay>=0);
-        // clang-format on
-        // The check text is spelt as it stands.
-        // clang-format off
-        ZEL_ASSERT(static_cast<unsigned int>(m_lMjdDay) <c_ulMAX_MJD_DAY);
-        // clang-format on
+        ZEL_ASSERT_TEXT(m_lMjdDay >= 0, "m_lMjdDay>=0");
+        ZEL_ASSERT_TEXT(static_cast<unsigned int>(m_lMjdDay) < c_ulMAX_MJD_DAY,
+                        "static_cast<unsigned int>(m_lMjdDay) <c_ulMAX_MJD_DAY");
     }
 
     // No check here, unlike AddDays.
