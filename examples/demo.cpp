@@ -1,14 +1,22 @@
 // ZelTypes example: a host installs its assertion hook and walks a time
-// through every form the library offers.
+// through every form the library offers, then an observation epoch, an
+// ephemeris, SSR corrections and inertial results.
 //
 //   zeltypes_demo [gps-week seconds-of-week]
+//
+// Exit code 0 when every round trip held and the library reported nothing;
+// 1 on bad arguments, when a check of the library failed or when a round
+// trip differed.
 #include "demo_ins.h"
 #include "demo_ssr.h"
 
 #include <ZelTypes/ZelTypesAll.h>
 
+#include <atomic>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <iomanip>
 #include <iostream>
 #include <sstream>
@@ -19,11 +27,35 @@ using namespace ZELN;
 namespace
 {
 
-// A host's hook: print every failed check of the library.
+// Failed checks seen so far; a hook may run on several threads at once.
+std::atomic<int> g_iReports{0};
+
+// A host's hook: print every failed check of the library and count it.
 bool PrintingHook(const char* szExpression, const char* szFile, int iLine)
 {
+    ++g_iReports;
     std::cerr << "check failed: " << szExpression << " (" << szFile << ":" << iLine << ")\n";
     return true;
+}
+
+const char* YesNo(bool b)
+{
+    return b ? "yes" : "no";
+}
+
+void Usage(std::ostream& os)
+{
+    os << "usage: zeltypes_demo [gps-week seconds-of-week]\n"
+          "  gps-week         full GPS week, 0 to 65535 (default 2345)\n"
+          "  seconds-of-week  0 to below 604800 (default 302400.125)\n";
+}
+
+// A whole number or a decimal, nothing else behind it.
+bool ParseNumber(const char* sz, double& rdValue)
+{
+    char* pEnd = nullptr;
+    rdValue = std::strtod(sz, &pEnd);
+    return pEnd != sz && *pEnd == '\0' && std::isfinite(rdValue);
 }
 
 void ShowTime(const SMjdTime& stTime)
@@ -33,8 +65,10 @@ void ShowTime(const SMjdTime& stTime)
     int iYear = 0, iMonth = 0, iDay = 0, iHour = 0, iMinute = 0;
     double dSeconds = 0.0;
     stTime.GetDate(iYear, iMonth, iDay, iHour, iMinute, dSeconds);
-    std::cout << "calendar             " << iYear << "-" << iMonth << "-" << iDay << " " << iHour << ":"
-              << iMinute << ":" << dSeconds << "\n";
+    char szIso[48];
+    std::snprintf(szIso, sizeof(szIso), "%04d-%02d-%02dT%02d:%02d:%06.3f", iYear, iMonth, iDay, iHour,
+                  iMinute, dSeconds);
+    std::cout << "calendar (ISO 8601)  " << szIso << "\n";
     unsigned short unWeek = 0;
     double dGpsSeconds = 0.0;
     unsigned int uiMs = 0;
@@ -91,15 +125,15 @@ void ShowEphemerisRoad()
     stGpsNew.setToc(345600 + 7200);
     stGpsNew.setIodc(78);
     const bool bGpsTaken = isNewEphemerisGps(stGpsHeld, stGpsNew);
-    std::cout << "GPS new set taken    " << bGpsTaken << "\n";
+    std::cout << "GPS new set taken    " << YesNo(bGpsTaken) << "\n";
     if (bGpsTaken)
     {
         stGpsHeld = stGpsNew;
     }
-    std::cout << "GPS held             G" << static_cast<int>(stGpsHeld.getPrn()) << " iodc "
-              << stGpsHeld.getIod() << ", fit " << static_cast<int>(stGpsHeld.getFitIntervalHours())
-              << " h, healthy " << stGpsHeld.isHealthy() << "\n";
-    std::cout << "same set again taken " << isNewEphemerisGps(stGpsHeld, stGpsNew) << "\n";
+    std::cout << "GPS held             " << stGpsHeld.getSatId() << " iodc " << stGpsHeld.getIod() << ", fit "
+              << static_cast<int>(stGpsHeld.getFitIntervalHours()) << " h, healthy "
+              << YesNo(stGpsHeld.isHealthy()) << "\n";
+    std::cout << "same set again taken " << YesNo(isNewEphemerisGps(stGpsHeld, stGpsNew)) << "\n";
 
     // A Galileo I/NAV set.
     ZELX_SAT_EPHEMERIS_GALILEO stGalHeld(4);
@@ -115,8 +149,8 @@ void ShowEphemerisRoad()
     stGalNew.setIodNav(94);
     stGalNew.setToe(345600 + 600);
     stGalNew.setToc(345600 + 600);
-    std::cout << "Galileo E" << static_cast<int>(stGalNew.getSatId().uiSatNumber) << " new set taken "
-              << isNewEphemerisGalileo(stGalHeld, stGalNew, false) << ", SISA " << stGalNew.getSisa()
+    std::cout << "Galileo " << stGalNew.getSatId() << " new set taken "
+              << YesNo(isNewEphemerisGalileo(stGalHeld, stGalNew, false)) << ", SISA " << stGalNew.getSisa()
               << " m\n";
 
     // The image starts with its layout version.
@@ -174,7 +208,16 @@ bool ShowObservationRoad()
 
     const bool bBytesEqual = bSaved && bLoaded && stFromBytes == stEpoch;
     const bool bTextEqual = !iss.fail() && stFromText == stEpoch;
-    std::cout << "text                 " << oss.str() << "\n";
+    // The log line of the epoch holds every satellite; shown here one per line.
+    std::ostringstream ossHeader;
+    ossHeader << std::setprecision(17) << stEpoch.stZelObservationEpochHeader;
+    std::cout << "header               " << ossHeader.str() << "\n";
+    for (const SZelSatObservation& rstSat : stEpoch.vecSatObs)
+    {
+        std::ostringstream ossSat;
+        ossSat << std::setprecision(17) << rstSat;
+        std::cout << "satellite " << rstSat.stSatId << "        " << ossSat.str() << "\n";
+    }
     std::cout << "bytes                " << vecBytes.size() << ", read back "
               << (bBytesEqual ? "equal" : "DIFFERENT") << "\n";
     std::cout << "text read back       " << (bTextEqual ? "equal" : "DIFFERENT") << "\n";
@@ -189,10 +232,27 @@ int main(int argc, char** argv)
 
     unsigned int uiWeek = 2345;
     double dSeconds = 302400.125;
-    if (argc >= 3)
+    if (argc == 2 && (std::strcmp(argv[1], "--help") == 0 || std::strcmp(argv[1], "-h") == 0))
     {
-        uiWeek = static_cast<unsigned int>(std::strtoul(argv[1], nullptr, 10));
-        dSeconds = std::strtod(argv[2], nullptr);
+        Usage(std::cout);
+        return 0;
+    }
+    if (argc == 3)
+    {
+        double dWeek = 0.0;
+        if (!ParseNumber(argv[1], dWeek) || !ParseNumber(argv[2], dSeconds) || dWeek < 0.0 ||
+            dWeek > 65535.0 || dWeek != std::floor(dWeek))
+        {
+            std::cerr << "ERROR: bad arguments\n";
+            Usage(std::cerr);
+            return 1;
+        }
+        uiWeek = static_cast<unsigned int>(dWeek);
+    }
+    else if (argc != 1)
+    {
+        Usage(std::cerr);
+        return 1;
     }
 
     std::cout << std::setprecision(15) << "== time: GPS week " << uiWeek << ", " << dSeconds << " s\n";
@@ -217,5 +277,10 @@ int main(int argc, char** argv)
 
     std::cout << "\n== inertial road\n";
     DemoIns(std::cout);
+    if (g_iReports > 0)
+    {
+        std::cerr << "ERROR: the library reported " << g_iReports << " failed check(s)\n";
+        return 1;
+    }
     return bTimeOk && bObsOk ? 0 : 1;
 }

@@ -669,6 +669,15 @@ TEST(Text, SatIDWriting)
     EXPECT_EQ("G01 007", oss.str());
 }
 
+TEST(Text, SatIDWritingIgnoresLeftAdjustment)
+{
+    // A caller's column layout must not move the leading zero behind the digit.
+    std::ostringstream oss;
+    oss << std::left << std::setw(10) << "sat" << Sat(ZELSATSYSTEM_GPS, 5) << ' '
+        << Sat(ZELSATSYSTEM_GALILEO, 11);
+    EXPECT_EQ("sat       G05 E11", oss.str());
+}
+
 TEST(Text, SatIDReading)
 {
     CRecorder stRec;

@@ -496,8 +496,14 @@ std::istream& ReadSatSystems(std::istream& is, uint32_t& rebfSatSystems)
 
 std::ostream& operator<<(std::ostream& os, const SZelSatID& rSatID)
 {
-    return os << ToSatSystemLetter(rSatID.eSatSystem) << std::setfill('0') << std::setw(2)
-              << ZelIo::Num(rSatID.uiSatNumber);
+    // The leading zero is written by hand: a width of 2 would follow the
+    // stream's adjustment, and std::left would turn G05 into G50.
+    os << ToSatSystemLetter(rSatID.eSatSystem) << std::setfill('0');
+    if (rSatID.uiSatNumber < 10)
+    {
+        os << '0';
+    }
+    return os << ZelIo::Num(rSatID.uiSatNumber);
 }
 
 std::istream& operator>>(std::istream& is, SZelSatID& rSatID)
