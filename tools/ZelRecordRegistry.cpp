@@ -93,6 +93,42 @@ const std::vector<SRecordKind>& RecordKinds()
         Kind<ZELX_SAT_STATE_ENTRY>("ZELX_SAT_STATE_ENTRY", [] { return ZelSample::SampleStateEntry(3); }),
         Kind<ZELX_SAT_STATE_EPOCH>("ZELX_SAT_STATE_EPOCH", [] { return ZelSample::SampleStateEpoch(900.0); }),
         Kind<ZELX_SAT_STATE_TABLE>("ZELX_SAT_STATE_TABLE", ZelSample::SampleStateTable),
+        Kind<SZelDOP>("SZelDOP", ZelSample::Dop),
+        Kind<SZelFrqSatUsage>("SZelFrqSatUsage", ZelSample::FrqSatUsage),
+        Kind<SZelSysSatUsage>("SZelSysSatUsage", [] { return ZelSample::SysSatUsage(); }),
+        Kind<SZelGnssAvailability>("SZelGnssAvailability", ZelSample::GnssAvailability),
+        Kind<SZelNrtkInfo>("SZelNrtkInfo", ZelSample::NrtkInfo),
+        Kind<SZelPosQuality>("SZelPosQuality", ZelSample::PosQuality),
+        Kind<SZelPosition>("SZelPosition", ZelSample::Position),
+        Kind<SZelPosResultHeader>("SZelPosResultHeader", ZelSample::PosResultHeader),
+        Kind<SZelPosResultExt>("SZelPosResultExt", ZelSample::PosResultExt),
+        Kind<SZelPosResultMeta>("SZelPosResultMeta", ZelSample::PosResultMeta),
+        Kind<ZelExtGnssPveObs>("ZelExtGnssPveObs", ZelSample::GnssPveObs),
+        Kind<SZelNovAtelBestPos>("SZelNovAtelBestPos", ZelSample::BestPos),
+        Kind<SZelNetAuxStation>("SZelNetAuxStation", ZelSample::NetAuxStation),
+        Kind<SZelNetMsgHeader>("SZelNetMsgHeader", [] { return ZelSample::NetMsgHeader(); }),
+        Kind<SZelNetSatEntry>("SZelNetSatEntry",
+                              []
+                              {
+                                  SZelNetSatEntry stEntry;
+                                  ZelSample::FillNetHead(stEntry, 3);
+                                  return stEntry;
+                              }),
+        Kind<SZelNetIonoEntry>("SZelNetIonoEntry", [] { return ZelSample::NetIonoEntry(); }),
+        Kind<SZelNetGeoEntry>("SZelNetGeoEntry", [] { return ZelSample::NetGeoEntry(); }),
+        Kind<SZelNetCombEntry>("SZelNetCombEntry", [] { return ZelSample::NetCombEntry(); }),
+        Kind<SZelNetGeoMsg>("SZelNetGeoMsg", ZelSample::NetGeoMsg),
+        Kind<SZelNetIonoMsg>("SZelNetIonoMsg", ZelSample::NetIonoMsg),
+        Kind<SZelNetCombMsg>("SZelNetCombMsg", ZelSample::NetCombMsg),
+        Kind<MsgGNSS17T>("MsgGNSS17T", ZelSample::MsgGnss17),
+        Kind<SZelNetCombEntryD>("SZelNetCombEntryD", [] { return ZelSample::NetCombEntryD(); }),
+        Kind<SZelNetCombMsgD>("SZelNetCombMsgD", ZelSample::NetCombMsgD),
+        Kind<SZelNetCorrPair>("SZelNetCorrPair", ZelSample::NetCorrPair),
+        Kind<SZelNetGridEntry>("SZelNetGridEntry", [] { return ZelSample::NetGridEntry(); }),
+        Kind<SZelNetGridMsg>("SZelNetGridMsg", ZelSample::NetGridMsg),
+        Kind<SZelNetGridSysMsg>("SZelNetGridSysMsg", ZelSample::NetGridSysMsg),
+        Kind<SZelNetResidualEntry>("SZelNetResidualEntry", [] { return ZelSample::NetResidualEntry(); }),
+        Kind<SZelNetResidualMsg>("SZelNetResidualMsg", ZelSample::NetResidualMsg),
     };
     return s_vecKinds;
 }

@@ -11,12 +11,14 @@
 #include <ZelTypes/Core/Common/ZelFrequencyManager.h>
 #include <ZelTypes/Core/Common/ZelGlonassFrequencies.h>
 #include <ZelTypes/Core/Common/ZelLock.h>
+#include <ZelTypes/Core/Common/ZelNovAtelBestPos.h>
 #include <ZelTypes/Core/Common/ZelObsEpoch.h>
 #include <ZelTypes/Core/Common/ZelObsInfo.h>
 #include <ZelTypes/Core/Common/ZelRecordIO.h>
 #include <ZelTypes/Core/Common/ZelSSRTypes.h>
 #include <ZelTypes/Core/Common/ZelSSRTypesSerialization.h>
 #include <ZelTypes/Core/Common/ZelTimeBlockIO.h>
+#include <ZelTypes/Core/Common/ZelTypes.h>
 #include <ZelTypes/Core/Common/ZelTypesIDs.h>
 #include <ZelTypes/Core/Common/ZelTypesKlob.h>
 #include <ZelTypes/Core/Common/ZelTypesObs.h>
@@ -31,9 +33,11 @@
 #include <ZelTypes/Ext/Common/ZelExtCoordTypes.h>
 #include <ZelTypes/Ext/Common/ZelExtMiscTypes.h>
 #include <ZelTypes/Ext/Gnss/ZelExtAlmTypes.h>
+#include <ZelTypes/Ext/Gnss/ZelExtAuxTypes.h>
 #include <ZelTypes/Ext/Gnss/ZelExtEphTypes.h>
 #include <ZelTypes/Ext/Gnss/ZelExtObsTypes.h>
 #include <ZelTypes/Ext/Gnss/ZelExtOrbTypes.h>
+#include <ZelTypes/Ext/Gnss/ZelExtPosResultTypes.h>
 #include <ZelTypes/Ext/Ins/ZelExtInsCfgTypes.h>
 #include <ZelTypes/Ext/Ins/ZelExtInsMiscTypes.h>
 #include <ZelTypes/Ext/Ins/ZelExtInsMiscTypesSerialization.h>

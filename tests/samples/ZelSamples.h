@@ -6,13 +6,16 @@
 // described once. One header per family.
 
 #include "ZelSamplesAlmanacs.h"
+#include "ZelSamplesBestPos.h"
 #include "ZelSamplesCoordinates.h"
 #include "ZelSamplesEphemeris.h"
 #include "ZelSamplesIds.h"
 #include "ZelSamplesIns.h"
 #include "ZelSamplesIonoUtc.h"
+#include "ZelSamplesNrtk.h"
 #include "ZelSamplesObservations.h"
 #include "ZelSamplesOrbits.h"
+#include "ZelSamplesPosition.h"
 #include "ZelSamplesSsr.h"
 #include "ZelSamplesTime.h"
 

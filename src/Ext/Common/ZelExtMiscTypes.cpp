@@ -62,4 +62,46 @@ std::istream& operator>>(std::istream& is, SZelHorizontalOffset& rOffset)
     return ZelIo::ReadText(is, rOffset);
 }
 
+// ------------------------------------------------------------------ SZelGloCodeBias
+
+namespace
+{
+bool IsGlonassSat(const SZelSatID& stSatId)
+{
+    return stSatId.isValid() && stSatId.eSatSystem == ZELSATSYSTEM_GLONASS;
+}
+} // namespace
+
+bool SZelGloCodeBias::GetBias(const SZelSatID& stSatId, EZelFrequency eFrequency, double& rdBias) const
+{
+    if (!IsGlonassSat(stSatId) || (ulValidMask & GetFrequencyBit(eFrequency)) == 0)
+    {
+        return false;
+    }
+    // A mask bit above the four biases names no stored value: reading it
+    // would run past the array, so the answer is no bias.
+    if (eFrequency < ZELFREQUENCY_L1CA || eFrequency > ZELFREQUENCY_L2P)
+    {
+        return false;
+    }
+    rdBias = adBias[eFrequency - 1];
+    return true;
+}
+
+void SZelGloCodeBias::SetBias(const SZelSatID& stSatId, EZelFrequency eFrequency, double dBias)
+{
+    if (IsGlonassSat(stSatId) && eFrequency >= ZELFREQUENCY_L1CA && eFrequency <= ZELFREQUENCY_L2P)
+    {
+        adBias[eFrequency - 1] = dBias;
+        return;
+    }
+    ZEL_ASSERT(false);
+}
+
+bool operator==(const SZelGloCodeBias& a, const SZelGloCodeBias& b)
+{
+    return a.ulValidMask == b.ulValidMask && a.adBias[0] == b.adBias[0] && a.adBias[1] == b.adBias[1] &&
+           a.adBias[2] == b.adBias[2] && a.adBias[3] == b.adBias[3];
+}
+
 } // namespace ZELN

@@ -530,7 +530,7 @@ public:
         {
             return false;
         }
-        return Elements(rSeq, ulCount, [this, bReport](auto& rElem) { return Record(rElem, bReport); });
+        return Elements(rSeq, ulCount, [this, bReport](auto& rElem) { return this->Record(rElem, bReport); });
     }
 
     // A sequence of Ext records behind a count of TCount (32 or 64 bits);

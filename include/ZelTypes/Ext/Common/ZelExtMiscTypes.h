@@ -94,4 +94,72 @@ ZELTYPES_API std::istream& operator>>(std::istream& is, SZelHorizontalOffset& rO
 
 } // namespace ZELN
 
+// ---------------------------------------------------------------------------
+// Engine records: GLONASS code biases and the tuning values of the core.
+// ---------------------------------------------------------------------------
+
+#include <ZelTypes/Core/Common/ZelAssert.h>
+#include <ZelTypes/Core/Common/ZelTypesIDs.h>
+
+namespace ZELN
+{
+
+// The code biases of a GLONASS satellite per frequency, in the producer's
+// unit (metres where the producer follows the engine). A bias counts only
+// where its bit of ulValidMask is set.
+struct ZELTYPES_API SZelGloCodeBias
+{
+    uint32_t ulValidMask = 0; // bit f-1: the bias of frequency f is valid
+    double adBias[4] = {};    // the biases of the frequency enumerators 1 to 4
+
+    // The bias of eFrequency into rdBias: true only for a valid GLONASS
+    // satellite whose frequency bit is set; rdBias is left alone otherwise.
+    bool GetBias(const SZelSatID& stSatId, EZelFrequency eFrequency, double& rdBias) const;
+
+    // Stores the bias of eFrequency (1 to 4) of a valid GLONASS satellite;
+    // anything else reports "false" and stores nothing. ulValidMask is left
+    // as it is: the caller sets it separately.
+    void SetBias(const SZelSatID& stSatId, EZelFrequency eFrequency, double dBias);
+
+    // 1 shifted left by eFrequency - 1, the shift taken modulo 32.
+    static uint32_t GetFrequencyBit(EZelFrequency eFrequency)
+    {
+        return 1u << ((static_cast<uint32_t>(eFrequency) - 1u) & 31u);
+    }
+
+    // True exactly when eFirst is 1 and eSecond is 2.
+    static bool IsPairOneTwo(EZelFrequency eFirst, EZelFrequency eSecond)
+    {
+        return eFirst == ZELFREQUENCY_L1CA && eSecond == ZELFREQUENCY_L1P;
+    }
+};
+
+// Mask and biases, exact: a NaN makes the record unequal to itself.
+ZELTYPES_API bool operator==(const SZelGloCodeBias& a, const SZelGloCodeBias& b);
+
+// Tuning values of the core, with their defaults and no binary or text
+// form. What each value tunes is known to the module that uses it; the
+// fields are named by their position.
+struct ZELTYPES_API SZelEngineTuning
+{
+    double adTune0[2] = {15000.0, -1.0};
+    float afTune1[4] = {0.1745329f, 20.0f, 200.0f, 0.25f}; // the first is 10 degrees in radians
+    int32_t alTune2[8] = {63, 2, 7, 0, 5, 2, 2, 2};
+    int64_t allTune3[2] = {0, 0};
+    uint16_t aunTune4[2] = {1, 0};
+    double dTune5 = 1.0;
+    uint16_t aunTune6[2] = {0, 1};
+    double dTune7 = 3.03951367781155;
+    double adTune8[3] = {0.0, 0.0, 0.0};
+    int32_t lTune9 = 0x200100;
+    double adTune10[2] = {181.0, 500.0};
+    int64_t llTune11 = 7;
+    uint8_t aucTune12[64] = {};
+    double adTune13[8] = {0.6, 0.99, 0.0001, 4.0, 0.9, -2.0, 1.0, 1.0};
+    int64_t llTune14 = 0;
+    uint8_t ucTune15 = 1;
+};
+
+} // namespace ZELN
+
 #endif
