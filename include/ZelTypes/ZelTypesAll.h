@@ -33,7 +33,9 @@
 #include <ZelTypes/Ext/Common/ZelExtCoordTypes.h>
 #include <ZelTypes/Ext/Common/ZelExtMiscTypes.h>
 #include <ZelTypes/Ext/Gnss/ZelExtAlmTypes.h>
+#include <ZelTypes/Ext/Gnss/ZelExtAntTypes.h>
 #include <ZelTypes/Ext/Gnss/ZelExtAuxTypes.h>
+#include <ZelTypes/Ext/Gnss/ZelExtCfgTypes.h>
 #include <ZelTypes/Ext/Gnss/ZelExtEphTypes.h>
 #include <ZelTypes/Ext/Gnss/ZelExtObsTypes.h>
 #include <ZelTypes/Ext/Gnss/ZelExtOrbTypes.h>

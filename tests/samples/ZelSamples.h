@@ -6,7 +6,9 @@
 // described once. One header per family.
 
 #include "ZelSamplesAlmanacs.h"
+#include "ZelSamplesAntenna.h"
 #include "ZelSamplesBestPos.h"
+#include "ZelSamplesConfig.h"
 #include "ZelSamplesCoordinates.h"
 #include "ZelSamplesEphemeris.h"
 #include "ZelSamplesIds.h"

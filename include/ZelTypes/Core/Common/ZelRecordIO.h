@@ -16,6 +16,8 @@
 #include <ostream>
 #include <string>
 #include <type_traits>
+#include <utility>
+#include <vector>
 
 namespace ZELN
 {
@@ -120,6 +122,22 @@ inline uint64_t PresizeCount(uint64_t ulCount, uint64_t ulRemaining, uint64_t ul
 {
     const uint64_t ulCanHold = ulRemaining / ulMinImage;
     return ulCount <= ulCanHold ? ulCount : ulCanHold;
+}
+
+// The entries of a map in the order of its keys (operator<), for the
+// written forms of hash maps: equal maps then give equal images and texts
+// whatever the order of their buckets.
+template <class TMap> inline std::vector<const typename TMap::value_type*> SortedEntries(const TMap& rMap)
+{
+    std::vector<const typename TMap::value_type*> vecEntries;
+    vecEntries.reserve(rMap.size());
+    for (const auto& rEntry : rMap)
+    {
+        vecEntries.push_back(&rEntry);
+    }
+    std::sort(vecEntries.begin(), vecEntries.end(),
+              [](const auto* pA, const auto* pB) { return pA->first < pB->first; });
+    return vecEntries;
 }
 
 // Shared state of the two directions: the buffer, its length and the running count.
@@ -379,6 +397,33 @@ public:
         }
         return !m_bOverrun;
     }
+
+    // Rows of plain values: the row count, then per row its count and values.
+    template <class Rows> bool RawRows(const Rows& rRows)
+    {
+        Count(rRows.size());
+        for (const auto& rRow : rRows)
+        {
+            RawSequence(rRow);
+        }
+        return !m_bOverrun;
+    }
+
+    // A hash map in the order of its keys: count, then per entry the key's
+    // fields and the value's own image. A value that fails ends the map
+    // without an outer report.
+    template <class TMap> bool SortedMap(const TMap& rMap)
+    {
+        Count(rMap.size());
+        for (const auto* pEntry : SortedEntries(rMap))
+        {
+            if (!Field(pEntry->first) || !Record(pEntry->second, false))
+            {
+                return false;
+            }
+        }
+        return !m_bOverrun;
+    }
 };
 
 // Reader side, the mirror of CBinWriter. Raw reads are checked against the
@@ -613,6 +658,50 @@ public:
         return true;
     }
 
+    // Rows of plain values. Rows and values are presized by what the bytes
+    // can hold and grow beyond, as a sequence. A count or value that is not
+    // there fails without a report: the record's own size test is the check.
+    template <class Rows> bool RawRows(Rows& rRows)
+    {
+        uint32_t ulRows = 0;
+        if (!Count(ulRows))
+        {
+            return false;
+        }
+        return Grow(rRows, ulRows, sizeof(uint32_t),
+                    [this](auto& rRow)
+                    {
+                        uint32_t ulValues = 0;
+                        return Count(ulValues) &&
+                               Grow(rRow, ulValues, sizeof(typename std::decay_t<decltype(rRow)>::value_type),
+                                    [this](auto& rValue) { return this->Raw(rValue); });
+                    });
+    }
+
+    // A map written in key order: the map is replaced by the entries read,
+    // each taken once whole; a key read twice keeps the last value. A value
+    // that fails ends the map without an outer report.
+    template <class TMap> bool SortedMap(TMap& rMap)
+    {
+        uint32_t ulCount = 0;
+        if (!Count(ulCount))
+        {
+            return false;
+        }
+        rMap.clear();
+        for (uint32_t ulIdx = 0; ulIdx < ulCount; ++ulIdx)
+        {
+            typename TMap::key_type tKey{};
+            typename TMap::mapped_type tValue{};
+            if (!Field(tKey) || !Record(tValue, false))
+            {
+                return false;
+            }
+            rMap[tKey] = std::move(tValue);
+        }
+        return true;
+    }
+
     template <class K, class V> static uint64_t EntrySize();
 
 private:
@@ -622,8 +711,13 @@ private:
     // The elements of a sequence after its count, sized as Sequence says.
     template <class Seq, class F> bool Elements(Seq& rSeq, uint64_t ulCount, F fnRead)
     {
-        using T = typename Seq::value_type;
-        const uint64_t ulPresize = PresizeCount(ulCount, Remaining(), MinImageSize<T>());
+        return Grow(rSeq, ulCount, MinImageSize<typename Seq::value_type>(), fnRead);
+    }
+
+    // The same with the smallest image of an element given.
+    template <class Seq, class F> bool Grow(Seq& rSeq, uint64_t ulCount, uint64_t ulMinImage, F fnRead)
+    {
+        const uint64_t ulPresize = PresizeCount(ulCount, Remaining(), ulMinImage);
         ReserveForOneMore(rSeq, ulCount, ulPresize);
         rSeq.resize(static_cast<size_t>(ulPresize));
         for (uint64_t ulIdx = 0; ulIdx < ulCount; ++ulIdx)
@@ -709,6 +803,25 @@ public:
     {
         return Add(4 + rMap.size() *
                            CBinReader::EntrySize<typename TMap::key_type, typename TMap::mapped_type>());
+    }
+    template <class Rows> bool RawRows(const Rows& rRows)
+    {
+        Add(4);
+        for (const auto& rRow : rRows)
+        {
+            RawSequence(rRow);
+        }
+        return true;
+    }
+    template <class TMap> bool SortedMap(const TMap& rMap)
+    {
+        Add(4);
+        for (const auto& rEntry : rMap)
+        {
+            Field(rEntry.first);
+            Record(rEntry.second);
+        }
+        return true;
     }
 
 private:
