@@ -10,25 +10,31 @@
 namespace ZELN
 {
 
-// Called on every failed check with the expression text, source path and line.
-// The result is part of the signature only: no caller looks at it.
+/// Called on every failed check with the expression text, source path and line.
+/// The result is part of the signature only: no caller looks at it.
 typedef boost::function<bool(const char* szExpression, const char* szFile, int iLine)> ZelAssertHandler;
 
-// Shared trace entry point of the modules that load the library; never called from inside it.
+/// Shared trace entry point of the modules that load the library; never called from inside it.
 typedef boost::function<void(const char*, int, int, const char*, int)> ZelTraceHandler;
 
+/// The global assertion hook itself (a reference, not a copy); assigning through it is the same as
+/// SetAssertHandler.
 ZELTYPES_API ZelAssertHandler& GetAssertHandler();
+/// The global trace hook itself (a reference, not a copy).
 ZELTYPES_API ZelTraceHandler& GetTraceHandler();
+/// Installs rHandler as the assertion hook and returns the previous one; an exception while copying either
+/// leaves the hook as it was. Call before starting threads: the hooks have no lock.
 ZELTYPES_API ZelAssertHandler SetAssertHandler(const ZelAssertHandler& rHandler);
+/// Installs rHandler as the trace hook and returns the previous one; same rules as SetAssertHandler.
 ZELTYPES_API ZelTraceHandler SetTraceHandler(const ZelTraceHandler& rHandler);
 
-// Once-only latch of a report that must not flood a host. Atomic, so that
-// two threads failing the same check at once are well defined; exactly one
-// of them reports.
+/// Once-only latch of a report that must not flood a host. Atomic, so that
+/// two threads failing the same check at once are well defined; exactly one
+/// of them reports.
 class CZelOnceLatch
 {
 public:
-    // True for the first caller only.
+    /// True for the first caller only.
     bool First() { return !m_bDone.exchange(true, std::memory_order_relaxed); }
 
 private:

@@ -1,9 +1,10 @@
 #ifndef ZELTYPES_CORE_COMMON_ZELRECORDIO_H
 #define ZELTYPES_CORE_COMMON_ZELRECORDIO_H
 
-// The steps every record takes in its binary and text forms, written once:
-// a record states its image in VisitFields and its line in VisitText, and
-// these helpers run each statement in both directions.
+/// \file
+/// The steps every record takes in its binary and text forms, written once:
+/// a record states its image in VisitFields and its line in VisitText, and
+/// these helpers run each statement in both directions.
 
 #include <ZelTypes/Core/Common/ZelAssert.h>
 
@@ -24,9 +25,9 @@ namespace ZELN
 namespace ZelIo
 {
 
-// An enumeration declared with a fixed underlying type may hold any value of
-// that type; one without may not, so a raw image or a narrowed text value
-// could give it an invalid value. Readers accept only the former.
+/// An enumeration declared with a fixed underlying type may hold any value of
+/// that type; one without may not, so a raw image or a narrowed text value
+/// could give it an invalid value. Readers accept only the former.
 template <class T, class = void> struct SHasFixedType : std::false_type
 {
 };
@@ -94,6 +95,7 @@ struct SHasVisitFields<T, std::void_t<decltype(&T::template VisitFields<int, T>)
 template <class T, class = void> struct SHasGetSize : std::false_type
 {
 };
+/// Size of the byte image, in bytes.
 template <class T>
 struct SHasGetSize<T, std::void_t<decltype(std::declval<const T&>().getSize())>> : std::true_type
 {
@@ -101,8 +103,8 @@ struct SHasGetSize<T, std::void_t<decltype(std::declval<const T&>().getSize())>>
 
 class CBinSizer;
 
-// The bytes of the smallest image of an element: a default record's image,
-// or the width of a plain value. Never 0, so that it can divide.
+/// The bytes of the smallest image of an element: a default record's image,
+/// or the width of a plain value. Never 0, so that it can divide.
 template <class T> inline uint64_t MinImageSize()
 {
     if constexpr (SHasGetSize<T>::value)
@@ -116,17 +118,17 @@ template <class T> inline uint64_t MinImageSize()
     }
 }
 
-// The elements a sequence is given before its elements are read: the count
-// when the remaining bytes can hold it, else what they can hold.
+/// The elements a sequence is given before its elements are read: the count
+/// when the remaining bytes can hold it, else what they can hold.
 inline uint64_t PresizeCount(uint64_t ulCount, uint64_t ulRemaining, uint64_t ulMinImage)
 {
     const uint64_t ulCanHold = ulRemaining / ulMinImage;
     return ulCount <= ulCanHold ? ulCount : ulCanHold;
 }
 
-// The entries of a map in the order of its keys (operator<), for the
-// written forms of hash maps: equal maps then give equal images and texts
-// whatever the order of their buckets.
+/// The entries of a map in the order of its keys (operator<), for the
+/// written forms of hash maps: equal maps then give equal images and texts
+/// whatever the order of their buckets.
 template <class TMap> inline std::vector<const typename TMap::value_type*> SortedEntries(const TMap& rMap)
 {
     std::vector<const typename TMap::value_type*> vecEntries;
@@ -140,7 +142,7 @@ template <class TMap> inline std::vector<const typename TMap::value_type*> Sorte
     return vecEntries;
 }
 
-// Shared state of the two directions: the buffer, its length and the running count.
+/// Shared state of the two directions: the buffer, its length and the running count.
 template <class TByte> class CBinCursor
 {
 public:
@@ -150,14 +152,14 @@ public:
     {
     }
 
-    // Bounds test of a fixed-size leaf record: the count is cleared first.
+    /// Bounds test of a fixed-size leaf record: the count is cleared first.
     bool BeginLeaf(uint64_t ulExpected)
     {
         SetOffset(0);
         return Fits(ulExpected);
     }
 
-    // Bounds test of any other record: the count is cleared after the test.
+    /// Bounds test of any other record: the count is cleared after the test.
     bool Begin(uint64_t ulExpected)
     {
         if (!Fits(ulExpected))
@@ -168,26 +170,28 @@ public:
         return true;
     }
 
+    /// Returns m_ulOffset.
     uint64_t Offset() const { return m_ulOffset; }
-    // A count beyond the length (left there by a caller's earlier use) leaves no room.
+    /// A count beyond the length (left there by a caller's earlier use) leaves no room.
     uint64_t Remaining() const { return m_ulOffset < m_uiLength ? m_uiLength - m_ulOffset : 0; }
     TByte* Here() const { return m_pBuffer + m_ulOffset; }
+    /// Returns m_bOverrun.
     bool Failed() const { return m_bOverrun; }
     void Fail() { m_bOverrun = true; }
 
-    // The result of a record: every step fitted and the count is the size.
+    /// The result of a record: every step fitted and the count is the size.
     bool End(uint64_t ulExpected) const { return !m_bOverrun && m_ulOffset == ulExpected; }
 
 protected:
-    // The caller's count follows every step; the cursor reads its own copy,
-    // which the bytes it copies cannot alias.
+    /// The caller's count follows every step; the cursor reads its own copy,
+    /// which the bytes it copies cannot alias.
     void SetOffset(uint64_t ulOffset)
     {
         m_ulOffset = ulOffset;
         *m_pulOffset = ulOffset;
     }
 
-    // Null buffer or short image: "false" and no access.
+    /// Null buffer or short image: "false" and no access.
     bool Fits(uint64_t ulExpected)
     {
         if (m_pBuffer == nullptr || ulExpected > m_uiLength)
@@ -198,8 +202,8 @@ protected:
         return true;
     }
 
-    // Claims ulSize bytes at the running count; false, and nothing claimed,
-    // when they are not there.
+    /// Claims ulSize bytes at the running count; false, and nothing claimed,
+    /// when they are not there.
     bool Claim(uint64_t ulSize, TByte*& rpAt)
     {
         if (ulSize > Remaining())
@@ -212,7 +216,7 @@ protected:
         return true;
     }
 
-    // Adds the count of a nested call, then reports its failure if asked.
+    /// Adds the count of a nested call, then reports its failure if asked.
     bool Nested(bool bOk, uint64_t ulUsed, bool bReport)
     {
         SetOffset(m_ulOffset + ulUsed);
@@ -235,9 +239,9 @@ protected:
     bool m_bOverrun = false;
 };
 
-// Writer side. The running count is an output: the record sets it to 0 and
-// leaves in it the number of bytes handled. A record whose size was
-// misstated stops writing where the buffer ends instead of running past it.
+/// Writer side. The running count is an output: the record sets it to 0 and
+/// leaves in it the number of bytes handled. A record whose size was
+/// misstated stops writing where the buffer ends instead of running past it.
 class CBinWriter : public CBinCursor<unsigned char>
 {
 public:
@@ -263,7 +267,7 @@ public:
         }
     }
 
-    // A field stored in another width than in memory (an enumeration in 1 byte, say).
+    /// A field stored in another width than in memory (an enumeration in 1 byte, say).
     template <class TStored, class T> bool RawAs(const T& rValue)
     {
         return Raw(static_cast<TStored>(rValue));
@@ -283,7 +287,7 @@ public:
         return true;
     }
 
-    // Reserved and filling bytes go out as zero: images are deterministic.
+    /// Reserved and filling bytes go out as zero: images are deterministic.
     bool Reserved(uint64_t ulSize)
     {
         unsigned char* pAt = nullptr;
@@ -298,8 +302,8 @@ public:
 
     bool Version(uint8_t ucVersion) { return Raw(ucVersion); }
 
-    // A nested record through its own writer; its count is added first, then
-    // a failure is reported here as well, unless the record says otherwise.
+    /// A nested record through its own writer; its count is added first, then
+    /// a failure is reported here as well, unless the record says otherwise.
     template <class R> bool Record(const R& rRecord, bool bReport = true)
     {
         uint64_t ulLocal = 0;
@@ -307,18 +311,18 @@ public:
         return Nested(bOk, ulLocal, bReport);
     }
 
-    // A nested Ext image (no count of its own): it takes its getSize bytes,
-    // and a failure is reported here once more.
+    /// A nested Ext image (no count of its own): it takes its getSize bytes,
+    /// and a failure is reported here once more.
     template <class R> bool ExtRecord(const R& rRecord)
     {
         const bool bOk = rRecord.saveData(Here(), Remaining());
         return Nested(bOk, bOk ? rRecord.getSize() : 0, true);
     }
 
-    // A nested record's fields in place, with no bounds test of its own.
+    /// A nested record's fields in place, with no bounds test of its own.
     template <class R> bool Inline(const R& rRecord) { return R::VisitFields(*this, rRecord); }
 
-    // A nested record's fields in place, or a plain value raw.
+    /// A nested record's fields in place, or a plain value raw.
     template <class T> bool Field(const T& rValue)
     {
         if constexpr (SHasVisitFields<T>::value)
@@ -331,17 +335,17 @@ public:
         }
     }
 
-    // The bytes of a record's memory layout, for records whose image is it.
+    /// The bytes of a record's memory layout, for records whose image is it.
     template <class R> bool Block(const R& rRecord, uint64_t ulSize)
     {
         static_assert(std::is_trivially_copyable<R>::value, "a block is a byte copy");
         return ulSize <= sizeof(R) ? Bytes(&rRecord, ulSize) : (Fail(), false);
     }
 
-    // The 32-bit element count of a sequence.
+    /// The 32-bit element count of a sequence.
     bool Count(uint64_t ulCount) { return Raw(static_cast<uint32_t>(ulCount)); }
 
-    // A sequence of records: count, then each element's own image.
+    /// A sequence of records: count, then each element's own image.
     template <class Seq> bool Sequence(const Seq& rSeq, bool bReport = true)
     {
         Count(rSeq.size());
@@ -368,13 +372,13 @@ public:
         return !m_bOverrun;
     }
 
-    // A sequence kept sorted: written as it stands.
+    /// A sequence kept sorted: written as it stands.
     template <class Seq> bool SortedSequence(const Seq& rSeq, bool bReport = true)
     {
         return Sequence(rSeq, bReport);
     }
 
-    // A sequence of plain values: count, then each value raw.
+    /// A sequence of plain values: count, then each value raw.
     template <class Seq> bool RawSequence(const Seq& rSeq)
     {
         Count(rSeq.size());
@@ -385,8 +389,8 @@ public:
         return !m_bOverrun;
     }
 
-    // A map: count, then per entry the key's fields and the value, in the
-    // map's iteration order.
+    /// A map: count, then per entry the key's fields and the value, in the
+    /// map's iteration order.
     template <class TMap> bool Map(const TMap& rMap)
     {
         Count(rMap.size());
@@ -398,7 +402,7 @@ public:
         return !m_bOverrun;
     }
 
-    // Rows of plain values: the row count, then per row its count and values.
+    /// Rows of plain values: the row count, then per row its count and values.
     template <class Rows> bool RawRows(const Rows& rRows)
     {
         Count(rRows.size());
@@ -409,9 +413,9 @@ public:
         return !m_bOverrun;
     }
 
-    // A hash map in the order of its keys: count, then per entry the key's
-    // fields and the value's own image. A value that fails ends the map
-    // without an outer report.
+    /// A hash map in the order of its keys: count, then per entry the key's
+    /// fields and the value's own image. A value that fails ends the map
+    /// without an outer report.
     template <class TMap> bool SortedMap(const TMap& rMap)
     {
         Count(rMap.size());
@@ -426,9 +430,9 @@ public:
     }
 };
 
-// Reader side, the mirror of CBinWriter. Raw reads are checked against the
-// remaining length, so that a forged count fails at the element where the
-// buffer ends instead of reading past it.
+/// Reader side, the mirror of CBinWriter. Raw reads are checked against the
+/// remaining length, so that a forged count fails at the element where the
+/// buffer ends instead of reading past it.
 class CBinReader : public CBinCursor<const unsigned char>
 {
 public:
@@ -437,10 +441,10 @@ public:
 
     using CBinCursor::CBinCursor;
 
-    // False, and nothing read, when the buffer ends. A bool comes in through
-    // a byte: any value but 0 is true, since a raw byte other than 0 or 1 is
-    // no valid bool. Enumerations read this way have a fixed underlying
-    // type, so that every image value is valid.
+    /// False, and nothing read, when the buffer ends. A bool comes in through
+    /// a byte: any value but 0 is true, since a raw byte other than 0 or 1 is
+    /// no valid bool. Enumerations read this way have a fixed underlying
+    /// type, so that every image value is valid.
     template <class T> bool Raw(T& rValue)
     {
         static_assert(std::is_trivially_copyable<T>::value, "raw fields must be trivially copyable");
@@ -484,7 +488,7 @@ public:
         return true;
     }
 
-    // A short leaf item inside a sequence: its own bound test, reported.
+    /// A short leaf item inside a sequence: its own bound test, reported.
     template <class T> bool RawChecked(T& rValue)
     {
         if (sizeof(T) > Remaining())
@@ -510,7 +514,7 @@ public:
         return true;
     }
 
-    // Reserved and filling bytes are passed over.
+    /// Reserved and filling bytes are passed over.
     bool Reserved(uint64_t ulSize)
     {
         const unsigned char* pAt = nullptr;
@@ -518,11 +522,11 @@ public:
     }
     bool Skip(uint64_t ulSize) { return Reserved(ulSize); }
 
-    // The version byte was looked at by the gate before any field.
+    /// The version byte was looked at by the gate before any field.
     bool Version(uint8_t) { return Reserved(1); }
 
-    // A nested record through its own reader; its count is added first.
-    // Most readers only return on failure; bReport adds the outer "false".
+    /// A nested record through its own reader; its count is added first.
+    /// Most readers only return on failure; bReport adds the outer "false".
     template <class R> bool Record(R& rRecord, bool bReport = false)
     {
         uint64_t ulLocal = 0;
@@ -562,12 +566,12 @@ public:
         return Raw(rulCount);
     }
 
-    // A sequence of records. A count the remaining bytes can hold resizes
-    // the sequence to it (shrinking drops the tail, growing default-
-    // constructs) and each element reads itself; a read that ends inside an
-    // element leaves the sequence at the count. A larger count cannot be
-    // read whole: the sequence is sized to what the bytes can hold and
-    // grows as elements are read, up to the one where the buffer ends.
+    /// A sequence of records. A count the remaining bytes can hold resizes
+    /// the sequence to it (shrinking drops the tail, growing default-
+    /// constructs) and each element reads itself; a read that ends inside an
+    /// element leaves the sequence at the count. A larger count cannot be
+    /// read whole: the sequence is sized to what the bytes can hold and
+    /// grows as elements are read, up to the one where the buffer ends.
     template <class Seq> bool Sequence(Seq& rSeq, bool bReport = false)
     {
         uint32_t ulCount = 0;
@@ -578,8 +582,8 @@ public:
         return Elements(rSeq, ulCount, [this, bReport](auto& rElem) { return this->Record(rElem, bReport); });
     }
 
-    // A sequence of Ext records behind a count of TCount (32 or 64 bits);
-    // an element that fails is reported here once more.
+    /// A sequence of Ext records behind a count of TCount (32 or 64 bits);
+    /// an element that fails is reported here once more.
     template <class TCount = uint32_t, class Seq> bool ExtSequence(Seq& rSeq)
     {
         TCount tCount = 0;
@@ -591,8 +595,8 @@ public:
                         [this](auto& rElem) { return ExtRecord(rElem); });
     }
 
-    // A sorted sequence sorts itself after its last element, so that its
-    // order holds whatever the source did.
+    /// A sorted sequence sorts itself after its last element, so that its
+    /// order holds whatever the source did.
     template <class Seq> bool SortedSequence(Seq& rSeq, bool bReport = false)
     {
         if (!Sequence(rSeq, bReport))
@@ -603,7 +607,7 @@ public:
         return true;
     }
 
-    // A sequence of plain values, each with its own reported bound test.
+    /// A sequence of plain values, each with its own reported bound test.
     template <class Seq> bool RawSequence(Seq& rSeq)
     {
         using T = typename Seq::value_type;
@@ -629,8 +633,8 @@ public:
         return true;
     }
 
-    // A map: entries are inserted as they are read, each with its own
-    // reported bound test; a key read twice keeps the last value.
+    /// A map: entries are inserted as they are read, each with its own
+    /// reported bound test; a key read twice keeps the last value.
     template <class TMap> bool Map(TMap& rMap)
     {
         using K = typename TMap::key_type;
@@ -658,9 +662,9 @@ public:
         return true;
     }
 
-    // Rows of plain values. Rows and values are presized by what the bytes
-    // can hold and grow beyond, as a sequence. A count or value that is not
-    // there fails without a report: the record's own size test is the check.
+    /// Rows of plain values. Rows and values are presized by what the bytes
+    /// can hold and grow beyond, as a sequence. A count or value that is not
+    /// there fails without a report: the record's own size test is the check.
     template <class Rows> bool RawRows(Rows& rRows)
     {
         uint32_t ulRows = 0;
@@ -678,9 +682,9 @@ public:
                     });
     }
 
-    // A map written in key order: the map is replaced by the entries read,
-    // each taken once whole; a key read twice keeps the last value. A value
-    // that fails ends the map without an outer report.
+    /// A map written in key order: the map is replaced by the entries read,
+    /// each taken once whole; a key read twice keeps the last value. A value
+    /// that fails ends the map without an outer report.
     template <class TMap> bool SortedMap(TMap& rMap)
     {
         uint32_t ulCount = 0;
@@ -705,16 +709,16 @@ public:
     template <class K, class V> static uint64_t EntrySize();
 
 private:
-    // A count beyond what the bytes hold can add one element after the
-    // presized ones (the one where the buffer ends); room for it is made at
-    // once, so that the vector never grows by reallocation.
-    // The elements of a sequence after its count, sized as Sequence says.
+    /// A count beyond what the bytes hold can add one element after the
+    /// presized ones (the one where the buffer ends); room for it is made at
+    /// once, so that the vector never grows by reallocation.
+    /// The elements of a sequence after its count, sized as Sequence says.
     template <class Seq, class F> bool Elements(Seq& rSeq, uint64_t ulCount, F fnRead)
     {
         return Grow(rSeq, ulCount, MinImageSize<typename Seq::value_type>(), fnRead);
     }
 
-    // The same with the smallest image of an element given.
+    /// The same with the smallest image of an element given.
     template <class Seq, class F> bool Grow(Seq& rSeq, uint64_t ulCount, uint64_t ulMinImage, F fnRead)
     {
         const uint64_t ulPresize = PresizeCount(ulCount, Remaining(), ulMinImage);
@@ -743,14 +747,15 @@ private:
     }
 };
 
-// Counts the bytes of an image without a buffer: getSize of a record whose
-// image is fixed, derived from the same statement.
+/// Counts the bytes of an image without a buffer: getSize of a record whose
+/// image is fixed, derived from the same statement.
 class CBinSizer
 {
 public:
     static constexpr bool c_bLoading = false;
     static constexpr bool c_bSizing = true;
 
+    /// Returns m_ulSize.
     uint64_t Size() const { return m_ulSize; }
 
     template <class T> bool Raw(const T&) { return Add(sizeof(T)); }
@@ -844,7 +849,7 @@ template <class K, class V> inline uint64_t CBinReader::EntrySize()
     return stSizer.Size();
 }
 
-// The visitor of a record's own static VisitFields.
+/// The visitor of a record's own static VisitFields.
 struct SMemberVisitor
 {
     template <class IO, class R> bool operator()(IO& io, R& r) const
@@ -853,7 +858,7 @@ struct SMemberVisitor
     }
 };
 
-// The size of a record's image from its statement.
+/// The size of a record's image from its statement.
 template <class R> inline uint64_t SizeOf(const R& rRecord)
 {
     CBinSizer stSizer;
@@ -861,9 +866,9 @@ template <class R> inline uint64_t SizeOf(const R& rRecord)
     return stSizer.Size();
 }
 
-// Core saveData and loadData in one call each. A leaf clears the count
-// before the bounds test, any other record after it; the count is compared
-// with the size at the end (worked out again after loading).
+/// Core saveData and loadData in one call each. A leaf clears the count
+/// before the bounds test, any other record after it; the count is compared
+/// with the size at the end (worked out again after loading).
 template <class R, class V = SMemberVisitor>
 inline bool SaveLeaf(const R& rRecord, unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset,
                      V fnVisit = V())
@@ -896,7 +901,7 @@ inline bool LoadFixed(R& rRecord, const unsigned char* pBuffer, uint64_t uiBuffe
     return stIn.Begin(rRecord.getSize()) && fnVisit(stIn, rRecord) && stIn.End(rRecord.getSize());
 }
 
-// Null buffer or short image: "false" and no access.
+/// Null buffer or short image: "false" and no access.
 inline bool ExtFits(const void* pBuffer, uint64_t uiBufferLength, uint64_t ulExpected)
 {
     if (pBuffer == nullptr || ulExpected > uiBufferLength)
@@ -907,10 +912,10 @@ inline bool ExtFits(const void* pBuffer, uint64_t uiBufferLength, uint64_t ulExp
     return true;
 }
 
-// The gate of a versioned Ext image, looked at before its length: buffer,
-// then version (refused with the class's own text, or silently when there
-// is none), then length. An empty buffer has no version byte to look at:
-// it fails as a short one.
+/// The gate of a versioned Ext image, looked at before its length: buffer,
+/// then version (refused with the class's own text, or silently when there
+/// is none), then length. An empty buffer has no version byte to look at:
+/// it fails as a short one.
 inline bool ExtVersionGate(const unsigned char* pBuffer, uint64_t uiBufferLength, uint8_t ucVersion,
                            const char* szOldVersion, uint64_t ulImageSize)
 {
@@ -930,8 +935,8 @@ inline bool ExtVersionGate(const unsigned char* pBuffer, uint64_t uiBufferLength
     return ExtFits(pBuffer, uiBufferLength, ulImageSize);
 }
 
-// Ext saveData and loadData in one call each: the length test, then the
-// fields; true when all of them fitted.
+/// Ext saveData and loadData in one call each: the length test, then the
+/// fields; true when all of them fitted.
 template <class R, class V = SMemberVisitor>
 inline bool SaveExt(const R& rRecord, unsigned char* pBuffer, uint64_t uiBufferLength, V fnVisit = V())
 {
@@ -954,8 +959,8 @@ inline bool LoadExt(R& rRecord, const unsigned char* pBuffer, uint64_t uiBufferL
     return fnVisit(stIn, rRecord) && !stIn.Failed();
 }
 
-// A versioned Ext image: the gate with the version of the layout and the
-// class's "received old version." text (nullptr: refused silently).
+/// A versioned Ext image: the gate with the version of the layout and the
+/// class's "received old version." text (nullptr: refused silently).
 template <class R, class V = SMemberVisitor>
 inline bool LoadExtVersioned(R& rRecord, const unsigned char* pBuffer, uint64_t uiBufferLength,
                              uint8_t ucVersion, const char* szOldVersion, V fnVisit = V())
@@ -980,7 +985,7 @@ inline std::istream& SkipComma(std::istream& is)
     return is;
 }
 
-// Printable form of an 8-bit number (never a character).
+/// Printable form of an 8-bit number (never a character).
 inline unsigned int Num(unsigned char uc)
 {
     return uc;
@@ -994,8 +999,8 @@ inline int Num(char c)
     return c;
 }
 
-// An enumeration word: one token; one trailing comma is removed, so the
-// comma after the word is consumed with it. Unknown words give iInvalid.
+/// An enumeration word: one token; one trailing comma is removed, so the
+/// comma after the word is consumed with it. Unknown words give iInvalid.
 inline int ReadEnumWord(std::istream& is, const char* const* aszWords, size_t ulNbWords, int iInvalid)
 {
     std::string strWord;
@@ -1019,7 +1024,7 @@ inline int ReadEnumWord(std::istream& is, const char* const* aszWords, size_t ul
     return iInvalid;
 }
 
-// The word of an enumeration value from a table indexed by value.
+/// The word of an enumeration value from a table indexed by value.
 inline const char* EnumWord(int iValue, const char* const* aszWords, size_t ulNbWords, const char* szInvalid)
 {
     if (iValue < 0 || static_cast<size_t>(iValue) >= ulNbWords)
@@ -1044,9 +1049,9 @@ inline const char* EnumWord(int iValue, const char* const* aszWords, size_t ulNb
 // visitor says so with `if constexpr (IO::c_bReading)`.
 // ---------------------------------------------------------------------------
 
-// Elements of a text sequence given in advance from its count: at most 4096,
-// and at most c_ulALLOC_CONSTANT bytes of them; a larger count grows as its
-// elements are read, so that a forged count costs no more than that.
+/// Elements of a text sequence given in advance from its count: at most 4096,
+/// and at most c_ulALLOC_CONSTANT bytes of them; a larger count grows as its
+/// elements are read, so that a forged count costs no more than that.
 constexpr uint32_t c_ulTEXT_PRESIZE_MAX = 4096;
 template <class T> constexpr uint32_t TextPresizeMax()
 {
@@ -1070,30 +1075,30 @@ public:
         return *this;
     }
 
-    // A plain insertion: numbers, nested records, words.
+    /// A plain insertion: numbers, nested records, words.
     template <class T> CTextWriter& Value(const T& rValue)
     {
         m_os << rValue;
         return *this;
     }
 
-    // Small integers, bools and enumerations through a wider type, so that
-    // an 8-bit value prints as a number and not as a character.
+    /// Small integers, bools and enumerations through a wider type, so that
+    /// an 8-bit value prints as a number and not as a character.
     template <class TWide, class T> CTextWriter& Wide(const T& rValue)
     {
         m_os << static_cast<TWide>(rValue);
         return *this;
     }
 
-    // A bit field in hexadecimal; the base goes back to decimal after it.
+    /// A bit field in hexadecimal; the base goes back to decimal after it.
     template <class TWide, class T> CTextWriter& Hex(const T& rValue)
     {
         m_os << std::hex << static_cast<TWide>(rValue) << std::dec;
         return *this;
     }
 
-    // An enumeration as its word from a table indexed by value; szInvalid
-    // for a value outside the table.
+    /// An enumeration as its word from a table indexed by value; szInvalid
+    /// for a value outside the table.
     template <class T, size_t N>
     CTextWriter& Word(const T& rValue, const char* const (&aszWords)[N], const char* szInvalid, int = -1)
     {
@@ -1102,7 +1107,7 @@ public:
         return *this;
     }
 
-    // A fixed array: elements separated by ", ", no tag per element.
+    /// A fixed array: elements separated by ", ", no tag per element.
     template <class T, size_t N> CTextWriter& Array(const T (&aValues)[N])
     {
         for (size_t ulIdx = 0; ulIdx < N; ++ulIdx)
@@ -1116,7 +1121,7 @@ public:
         return *this;
     }
 
-    // A sequence: its count under its tag, then ", " and each element.
+    /// A sequence: its count under its tag, then ", " and each element.
     template <class Seq> CTextWriter& Sequence(const Seq& rSeq, const char* szCountTag)
     {
         m_os << szCountTag << rSeq.size();
@@ -1127,14 +1132,14 @@ public:
         return *this;
     }
 
-    // A nested value with a form of its own (a time in milliseconds, say).
+    /// A nested value with a form of its own (a time in milliseconds, say).
     template <class T, class F> CTextWriter& Form(const T& rValue, F eForm)
     {
         rValue.WriteText(m_os, eForm);
         return *this;
     }
 
-    // Stream settings; set and not restored, as every writer does.
+    /// Stream settings; set and not restored, as every writer does.
     CTextWriter& Precision(int iDigits)
     {
         m_os << std::setprecision(iDigits);
@@ -1168,7 +1173,7 @@ public:
     explicit CTextReader(std::istream& is) : m_is(is) {}
     std::istream& Stream() { return m_is; }
 
-    // The steps of a tag string: a char read per ",", a token read per word.
+    /// The steps of a tag string: a char read per ",", a token read per word.
     CTextReader& Tag(const char* szTag)
     {
         const char* pc = szTag;
@@ -1202,7 +1207,7 @@ public:
         return *this;
     }
 
-    // On a failed extraction the value gets the temporary's zero.
+    /// On a failed extraction the value gets the temporary's zero.
     template <class TWide, class T> CTextReader& Wide(T& rValue)
     {
         static_assert(IsFixedEnum<T>(), "enumerations need a fixed underlying type");
@@ -1221,9 +1226,9 @@ public:
         return *this;
     }
 
-    // A word: one token, trailing blanks and one trailing comma cut off, so
-    // that the comma after the word goes with it; an unknown word gives
-    // iInvalid.
+    /// A word: one token, trailing blanks and one trailing comma cut off, so
+    /// that the comma after the word goes with it; an unknown word gives
+    /// iInvalid.
     template <class T, size_t N>
     CTextReader& Word(T& rValue, const char* const (&aszWords)[N], const char*, int iInvalid = -1)
     {
@@ -1232,7 +1237,7 @@ public:
         return *this;
     }
 
-    // The loop counts so that no comma is read after the last element.
+    /// The loop counts so that no comma is read after the last element.
     template <class T, size_t N> CTextReader& Array(T (&aValues)[N])
     {
         for (size_t ulIdx = 0; ulIdx < N; ++ulIdx)
@@ -1247,9 +1252,9 @@ public:
         return *this;
     }
 
-    // The count after its tag sizes the sequence (within the text bound),
-    // then each element is read after its ", ". A text cut before the count
-    // leaves the sequence as it was; a failed stream ends the loop.
+    /// The count after its tag sizes the sequence (within the text bound),
+    /// then each element is read after its ", ". A text cut before the count
+    /// leaves the sequence as it was; a failed stream ends the loop.
     template <class Seq> CTextReader& Sequence(Seq& rSeq, const char* szCountTag)
     {
         Tag(szCountTag);
@@ -1295,7 +1300,7 @@ private:
     std::istream& m_is;
 };
 
-// operator<< and operator>> of a record with a static VisitText.
+/// operator<< and operator>> of a record with a static VisitText.
 template <class R> inline std::ostream& WriteText(std::ostream& os, const R& rRecord)
 {
     CTextWriter stOut(os);

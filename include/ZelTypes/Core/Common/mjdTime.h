@@ -1,10 +1,11 @@
 #ifndef ZELTYPES_CORE_COMMON_MJDTIME_H
 #define ZELTYPES_CORE_COMMON_MJDTIME_H
 
-// SMjdTime: the one time value of the library. A modified Julian day, the
-// milliseconds of that day and the tolerance used when two times compare.
-// It knows no time scale; GPS, BeiDou, GLONASS and UTC times all sit in it.
-// Everything is inline: the record is copied and compared in hot paths.
+/// \file
+/// SMjdTime: the one time value of the library. A modified Julian day, the
+/// milliseconds of that day and the tolerance used when two times compare.
+/// It knows no time scale; GPS, BeiDou, GLONASS and UTC times all sit in it.
+/// Everything is inline: the record is copied and compared in hot paths.
 
 #include <ZelTypes/Core/Common/ZelAssert.h>
 #include <ZelTypes/Core/Common/ZelExport.h>
@@ -20,21 +21,29 @@
 namespace ZELN
 {
 
-constexpr uint32_t c_ulMAX_MJD_DAY = 86000;     // first day number out of range
-constexpr uint32_t c_ulMSEC_PER_DAY = 86400000; // first millisecond value out of range
+constexpr uint32_t c_ulMAX_MJD_DAY = 86000;     ///< first day number out of range
+constexpr uint32_t c_ulMSEC_PER_DAY = 86400000; ///< first millisecond value out of range
+/// Milliseconds in a week.
 constexpr uint32_t c_ulMSEC_PER_WEEK = 604800000;
+/// Seconds in a week.
 constexpr uint32_t c_ulSEC_PER_WEEK = 604800;
+/// Days in a week.
 constexpr uint32_t c_ulDAYS_PER_WEEK = 7;
-constexpr uint32_t c_ulMAX_GPS_WEEK = 5965; // highest GPS week accepted
-constexpr int32_t c_lGPS_EPOCH_MJD = 44244; // GPS week 0, day 0
+constexpr uint32_t c_ulMAX_GPS_WEEK = 5965; ///< highest GPS week accepted
+constexpr int32_t c_lGPS_EPOCH_MJD = 44244; ///< GPS week 0, day 0
+/// GPS week in which BeiDou week 0 begins.
 constexpr uint32_t c_ulGPS_WEEKS_AT_BDS_REFTIME = 1356;
-constexpr double c_dBDS_OFFSET_MSEC = 14000.0; // GPS time minus BeiDou time
+constexpr double c_dBDS_OFFSET_MSEC = 14000.0; ///< GPS time minus BeiDou time
+/// Weeks in one epoch of the 10-bit broadcast GPS week.
 constexpr uint32_t c_ulGPS_WEEK_ROLLOVER = 1024;
+/// Julian date minus modified Julian day, in days.
 constexpr double c_dJD_MJD_OFFSET = 2400000.5;
+/// First year that the date checks accept.
 constexpr int c_iMIN_VALID_YEAR = 1980;
+/// Last year that the date checks accept.
 constexpr int c_iMAX_VALID_YEAR = 2100;
 
-// Fixed underlying types: an image or a text may carry any 32-bit value.
+/// Fixed underlying types: an image or a text may carry any 32-bit value.
 enum EMjdTimeAccuracy : int32_t
 {
     MJDACC_EXACT = 0,
@@ -46,7 +55,7 @@ enum EMjdTimeAccuracy : int32_t
     MJDACC_HOUR = 6
 };
 
-// Index into the table of rounding steps (milliseconds).
+/// Index into the table of rounding steps (milliseconds).
 enum EMjdTimeRoundStep : int32_t
 {
     MJDSTEP_1MS = 0,
@@ -59,6 +68,8 @@ enum EMjdTimeRoundStep : int32_t
     MJDSTEP_1NS = 7
 };
 
+/// Text forms of WriteText and ReadText: month and year, date and time, MJD, GPS week and seconds, GPS week
+/// and milliseconds.
 enum EMjdTimeTextForm : int32_t
 {
     MJDTXT_MONTHYEAR = 0,
@@ -75,8 +86,8 @@ constexpr double c_adRoundStepMs[] = {1.0, 10.0, 100.0, 1000.0, 60000.0, 3600000
 constexpr uint32_t c_aulDaysPerMonth[] = {0, 31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
 constexpr double c_dDoubleEpsilon = 2.220446049250313e-16;
 
-// Converting a double outside the 64-bit range to an integer is undefined;
-// such values (and NaN) only arise after a failed check, and then give 0.
+/// Converting a double outside the 64-bit range to an integer is undefined;
+/// such values (and NaN) only arise after a failed check, and then give 0.
 inline int64_t TruncToInt64(double d)
 {
     if (!(d > -9.2e18 && d < 9.2e18))
@@ -91,7 +102,7 @@ inline bool FitsInt32(double d)
     return d > -2147483649.0 && d < 2147483648.0;
 }
 
-// Narrowing to 32 bits wraps, as the arithmetic of the day number does.
+/// Narrowing to 32 bits wraps, as the arithmetic of the day number does.
 inline int32_t WrapToInt32(int64_t l)
 {
     return static_cast<int32_t>(static_cast<uint32_t>(static_cast<uint64_t>(l)));
@@ -103,7 +114,7 @@ inline int32_t AddWrap(int32_t lA, int64_t lB)
         static_cast<int64_t>(static_cast<uint64_t>(static_cast<int64_t>(lA)) + static_cast<uint64_t>(lB)));
 }
 
-// Modified Julian day of a calendar date; C divisions, truncation toward zero.
+/// Modified Julian day of a calendar date; C divisions, truncation toward zero.
 inline int32_t CalendarToMjd(int iYear, int iMonth, int iDay)
 {
     const int64_t y = iMonth < 3 ? static_cast<int64_t>(iYear) - 1 : static_cast<int64_t>(iYear);
@@ -112,8 +123,8 @@ inline int32_t CalendarToMjd(int iYear, int iMonth, int iDay)
                        TruncToInt64(30.6001 * static_cast<double>(m)) + iDay + y / 400 - y / 100 - 679004);
 }
 
-// Modified Julian day of day N of a year; the division by 1000 cancels the
-// century term over the library's range of years.
+/// Modified Julian day of day N of a year; the division by 1000 cancels the
+/// century term over the library's range of years.
 inline int32_t YearDayToMjd(int iYear, int iDoy)
 {
     const int64_t d = static_cast<int64_t>(iYear) - 1901;
@@ -137,21 +148,30 @@ inline uint32_t DaysInMonth(int iYear, int iMonth)
 
 } // namespace MjdDetail
 
+/// A time: modified Julian day, milliseconds of that day and the tolerance with which it compares. Holds any
+/// time scale; GPS and BeiDou setters and getters convert weeks.
 struct SMjdTime
 {
+    /// Modified Julian day, 0 up to c_ulMAX_MJD_DAY (exclusive) when valid.
     int32_t m_lMjdDay;
+    /// Milliseconds of the day, 0 up to 86400000 (exclusive) when valid.
     double m_dMjdFractMilliseconds;
+    /// Tolerance of comparisons within a day, as the left operand's accuracy.
     EMjdTimeAccuracy m_eAccuracy;
 
     // ---------------------------------------------------------------- construction
 
+    /// Constructs the default state (for a record: holding no data).
     SMjdTime() : m_lMjdDay(0), m_dMjdFractMilliseconds(0.0), m_eAccuracy(MJDACC_NANOSECOND) {}
 
+    /// Day 0 at midnight, with the given comparison accuracy.
     explicit SMjdTime(const EMjdTimeAccuracy& eAccuracy)
         : m_lMjdDay(0), m_dMjdFractMilliseconds(0.0), m_eAccuracy(eAccuracy)
     {
     }
 
+    /// Calendar date and time of day (seconds may carry a fraction); a bad date is reported and stored
+    /// unchecked.
     SMjdTime(int iYear, int iMonth, int iDay, int iHour, int iMinute, double dSeconds,
              const EMjdTimeAccuracy& eAccuracy = MJDACC_NANOSECOND)
         : m_lMjdDay(0), m_dMjdFractMilliseconds(0.0), m_eAccuracy(eAccuracy)
@@ -159,6 +179,7 @@ struct SMjdTime
         SetDateTime(iYear, iMonth, iDay, iHour, iMinute, dSeconds);
     }
 
+    /// Calendar date with the time as the fraction of dDay; a bad date is reported.
     SMjdTime(int iYear, int iMonth, double dDay, const EMjdTimeAccuracy& eAccuracy = MJDACC_NANOSECOND)
         : m_lMjdDay(0), m_dMjdFractMilliseconds(0.0), m_eAccuracy(eAccuracy)
     {
@@ -168,6 +189,8 @@ struct SMjdTime
         m_dMjdFractMilliseconds = (dDay - std::floor(dDay)) * 86400000.0;
     }
 
+    /// GPS week and seconds of week; a week above c_ulMAX_GPS_WEEK or seconds outside [0, 604800) are
+    /// reported.
     SMjdTime(unsigned int uiGpsWeek, double dGpsSeconds,
              const EMjdTimeAccuracy& eAccuracy = MJDACC_NANOSECOND)
         : m_lMjdDay(0), m_dMjdFractMilliseconds(0.0), m_eAccuracy(eAccuracy)
@@ -178,6 +201,7 @@ struct SMjdTime
         m_dMjdFractMilliseconds = std::fmod(dGpsSeconds, 86400.0) * 1000.0;
     }
 
+    /// Modified Julian date in days, with the time as its fraction.
     explicit SMjdTime(double dMjd, const EMjdTimeAccuracy& eAccuracy = MJDACC_NANOSECOND)
         : m_lMjdDay(0), m_dMjdFractMilliseconds(0.0), m_eAccuracy(eAccuracy)
     {
@@ -186,15 +210,17 @@ struct SMjdTime
 
     // ---------------------------------------------------------------- state
 
+    /// True when the day lies in [0, c_ulMAX_MJD_DAY) and the milliseconds in [0, 86400000).
     bool isValid() const
     {
         return m_lMjdDay >= 0 && static_cast<uint32_t>(m_lMjdDay) < c_ulMAX_MJD_DAY &&
                m_dMjdFractMilliseconds >= 0.0 && m_dMjdFractMilliseconds < c_ulMSEC_PER_DAY;
     }
 
-    // The same test under the name that the checks of the epoch records use.
+    /// The same test under the name that the checks of the epoch records use.
     bool IsValid() const { return isValid(); }
 
+    /// Day 0, midnight, nanosecond accuracy: the default time.
     void Reset()
     {
         m_lMjdDay = 0;
@@ -202,6 +228,7 @@ struct SMjdTime
         m_eAccuracy = MJDACC_NANOSECOND;
     }
 
+    /// Day 0 at midnight, with the given accuracy.
     void ResetAt(const EMjdTimeAccuracy& eAccuracy)
     {
         m_lMjdDay = 0;
@@ -209,20 +236,23 @@ struct SMjdTime
         m_eAccuracy = eAccuracy;
     }
 
-    // Differs from a default time: earlier at this record's accuracy, or
-    // later at one nanosecond.
+    /// Differs from a default time: earlier at this record's accuracy, or
+    /// later at one nanosecond.
     bool IsSet() const
     {
         const SMjdTime stDefault;
         return IsEarlier(m_eAccuracy, *this, stDefault) || IsEarlier(MJDACC_NANOSECOND, stDefault, *this);
     }
 
+    /// Modified Julian day.
     int32_t GetMjdDay() const { return m_lMjdDay; }
+    /// Milliseconds of the day.
     double GetMjdFractMilliseconds() const { return m_dMjdFractMilliseconds; }
+    /// Comparison accuracy.
     EMjdTimeAccuracy GetAccuracy() const { return m_eAccuracy; }
 
-    // The setters store the value also after a failed check: the record never
-    // clamps and never refuses.
+    /// The setters store the value also after a failed check: the record never
+    /// clamps and never refuses.
     void SetMjdDay(int32_t lMjdDay)
     {
         ZEL_ASSERT_TEXT(lMjdDay >= 0, "lMjdDay>=0");
@@ -230,14 +260,17 @@ struct SMjdTime
         m_lMjdDay = lMjdDay;
     }
 
+    /// Sets the milliseconds of the day; 86400000 or more is reported and stored.
     void SetMjdFractMilliseconds(double dMjdMilliseconds)
     {
         ZEL_ASSERT(dMjdMilliseconds < c_ulMSEC_PER_DAY);
         m_dMjdFractMilliseconds = dMjdMilliseconds;
     }
 
+    /// Sets the comparison accuracy.
     void SetAccuracy(const EMjdTimeAccuracy& eAccuracy) { m_eAccuracy = eAccuracy; }
 
+    /// Sets day and milliseconds of the day; values out of range are reported and stored.
     void SetMjdDayMilliseconds(int32_t lMjdDay, double dMjdMilliseconds)
     {
         ZEL_ASSERT_TEXT(lMjdDay >= 0, "lMjdDay>=0");
@@ -247,6 +280,7 @@ struct SMjdTime
         m_dMjdFractMilliseconds = dMjdMilliseconds;
     }
 
+    /// Sets the day and the time as a fraction of a day.
     void SetMjdDayFract(int32_t lMjdDay, double dFractDay)
     {
         ZEL_ASSERT_TEXT(lMjdDay >= 0, "lMjdDay>=0");
@@ -258,6 +292,7 @@ struct SMjdTime
 
     // ---------------------------------------------------------------- arithmetic
 
+    /// Adds whole days (negative moves back); a result out of range is reported.
     void AddDays(int32_t lDays)
     {
         m_lMjdDay = MjdDetail::AddWrap(m_lMjdDay, lDays);
@@ -266,10 +301,10 @@ struct SMjdTime
                         "static_cast<unsigned int>(m_lMjdDay) <c_ulMAX_MJD_DAY");
     }
 
-    // No check here, unlike AddDays.
+    /// No check here, unlike AddDays.
     void SubDays(int32_t lDays) { m_lMjdDay = MjdDetail::AddWrap(m_lMjdDay, -static_cast<int64_t>(lDays)); }
 
-    // The one normalisation of the record: all timed arithmetic goes through it.
+    /// The one normalisation of the record: all timed arithmetic goes through it.
     void AddMilliseconds(double dDelta)
     {
         m_dMjdFractMilliseconds += dDelta;
@@ -299,21 +334,29 @@ struct SMjdTime
                    m_dMjdFractMilliseconds >= 0.0);
     }
 
+    /// Adds seconds (negative moves back), carrying into the day.
     void AddSeconds(double d) { AddMilliseconds(d * 1000.0); }
+    /// Adds minutes (negative moves back), carrying into the day.
     void AddMinutes(double d) { AddMilliseconds(d * 60000.0); }
+    /// Adds hours (negative moves back), carrying into the day.
     void AddHours(double d) { AddMilliseconds(d * 3600000.0); }
+    /// Subtracts milliseconds, carrying into the day.
     void SubMilliseconds(double d) { AddMilliseconds(-d); }
+    /// Subtracts seconds, carrying into the day.
     void SubSeconds(double d) { AddMilliseconds(d * -1000.0); }
+    /// Subtracts minutes, carrying into the day.
     void SubMinutes(double d) { AddMilliseconds(d * -60000.0); }
+    /// Subtracts hours, carrying into the day.
     void SubHours(double d) { AddMilliseconds(d * -3600000.0); }
 
-    // a minus b in milliseconds; the day difference is taken in 32 bits.
+    /// a minus b in milliseconds; the day difference is taken in 32 bits.
     static double DiffAsMilliseconds(const SMjdTime& a, const SMjdTime& b)
     {
         const int32_t lDayDiff = MjdDetail::AddWrap(a.m_lMjdDay, -static_cast<int64_t>(b.m_lMjdDay));
         return (a.m_dMjdFractMilliseconds - b.m_dMjdFractMilliseconds) + lDayDiff * 86400000.0;
     }
 
+    /// a minus b in days.
     static double DiffAsDays(const SMjdTime& a, const SMjdTime& b)
     {
         return (a.m_dMjdFractMilliseconds / 86400000.0 + a.m_lMjdDay) -
@@ -322,6 +365,7 @@ struct SMjdTime
 
     // ---------------------------------------------------------------- rounding
 
+    /// Rounds the time of day to the nearest multiple of dMilliSeconds (> 0), carrying whole days.
     void RoundToMilliseconds(double dMilliSeconds)
     {
         ZEL_ASSERT(dMilliSeconds > 0.0);
@@ -329,12 +373,14 @@ struct SMjdTime
         CarryWholeDays();
     }
 
+    /// Rounds the time of day down to a multiple of dMilliSeconds (> 0).
     void FloorToMilliseconds(double dMilliSeconds)
     {
         ZEL_ASSERT(dMilliSeconds > 0.0);
         m_dMjdFractMilliseconds = std::floor(m_dMjdFractMilliseconds / dMilliSeconds) * dMilliSeconds;
     }
 
+    /// Rounds the time of day up to a multiple of dMilliSeconds (> 0), carrying whole days.
     void CeilToMilliseconds(double dMilliSeconds)
     {
         ZEL_ASSERT(dMilliSeconds > 0.0);
@@ -342,8 +388,8 @@ struct SMjdTime
         CarryWholeDays();
     }
 
-    // An index outside the step table would read past it; such a call
-    // leaves the record unchanged.
+    /// An index outside the step table would read past it; such a call
+    /// leaves the record unchanged.
     void RoundTo(EMjdTimeRoundStep eStep)
     {
         if (!IsRoundStep(eStep))
@@ -355,6 +401,7 @@ struct SMjdTime
         CarryOneDay();
     }
 
+    /// Rounds the time of day down to a multiple of the step; an unknown step leaves the time unchanged.
     void FloorTo(EMjdTimeRoundStep eStep)
     {
         if (!IsRoundStep(eStep))
@@ -365,6 +412,8 @@ struct SMjdTime
         m_dMjdFractMilliseconds = std::floor(m_dMjdFractMilliseconds / dStep) * dStep;
     }
 
+    /// Rounds the time of day up to a multiple of the step, carrying into the next day; an unknown step
+    /// leaves the time unchanged.
     void CeilTo(EMjdTimeRoundStep eStep)
     {
         if (!IsRoundStep(eStep))
@@ -378,7 +427,7 @@ struct SMjdTime
 
     // ---------------------------------------------------------------- comparison
 
-    // Across days the tolerance takes no part; within a day the accuracy row decides.
+    /// Across days the tolerance takes no part; within a day the accuracy row decides.
     static bool IsEarlier(EMjdTimeAccuracy eAccuracy, const SMjdTime& a, const SMjdTime& b)
     {
         const int32_t lDayDiff = MjdDetail::AddWrap(a.m_lMjdDay, -static_cast<int64_t>(b.m_lMjdDay));
@@ -409,14 +458,20 @@ struct SMjdTime
         }
     }
 
+    /// True when this time is earlier than b, at this time's accuracy.
     bool operator<(const SMjdTime& b) const { return IsEarlier(m_eAccuracy, *this, b); }
+    /// True when b is earlier than this time, at b's accuracy.
     bool operator>(const SMjdTime& b) const { return IsEarlier(b.m_eAccuracy, b, *this); }
+    /// True when b is not earlier than this time, at b's accuracy.
     bool operator<=(const SMjdTime& b) const { return !IsEarlier(b.m_eAccuracy, b, *this); }
+    /// True when this time is not earlier than b, at this time's accuracy.
     bool operator>=(const SMjdTime& b) const { return !IsEarlier(m_eAccuracy, *this, b); }
+    /// Tolerant equality: neither time is earlier than the other, each at its own accuracy.
     bool operator==(const SMjdTime& b) const
     {
         return !IsEarlier(m_eAccuracy, *this, b) && !IsEarlier(b.m_eAccuracy, b, *this);
     }
+    /// Negation of operator==.
     bool operator!=(const SMjdTime& b) const
     {
         return IsEarlier(m_eAccuracy, *this, b) || IsEarlier(b.m_eAccuracy, b, *this);
@@ -424,6 +479,7 @@ struct SMjdTime
 
     // ---------------------------------------------------------------- calendar and GNSS setters
 
+    /// Sets calendar date and time of day; a bad date is reported and stored unchecked.
     void SetDateTime(int iYear, int iMonth, int iDay, int iHour, int iMinute, double dSeconds)
     {
         ZEL_ASSERT(__IsValidDate(iYear, iMonth, iDay, iHour, iMinute, dSeconds));
@@ -431,6 +487,7 @@ struct SMjdTime
         m_dMjdFractMilliseconds = (iHour * 3600.0 + iMinute * 60.0 + dSeconds) * 1000.0;
     }
 
+    /// Sets the modified Julian date in days (fraction = time of day); c_ulMAX_MJD_DAY or more is reported.
     void SetMjd(double dMjd)
     {
         ZEL_ASSERT(dMjd < c_ulMAX_MJD_DAY);
@@ -438,15 +495,17 @@ struct SMjdTime
         m_dMjdFractMilliseconds = (dMjd - std::floor(dMjd)) * 86400000.0;
     }
 
+    /// Sets the modified Julian date in days, normalising any value through SetMjdDayFract.
     void SetMjdAny(double dMjd)
     {
         const int64_t lDay = MjdDetail::TruncToInt64(dMjd);
         SetMjdDayFract(MjdDetail::WrapToInt32(lDay), dMjd - std::trunc(dMjd));
     }
 
+    /// Sets the Julian date in days.
     void SetJulianDate(double dJd) { SetMjdAny(dJd - c_dJD_MJD_OFFSET); }
 
-    // The GPS setters accept the end of the week itself (<=), unlike the constructor.
+    /// The GPS setters accept the end of the week itself (<=), unlike the constructor.
     void SetGpsTime(unsigned short unGpsWeek, double dGpsSeconds)
     {
         ZEL_ASSERT(unGpsWeek <= c_ulMAX_GPS_WEEK && dGpsSeconds >= 0.0 && dGpsSeconds <= c_ulSEC_PER_WEEK);
@@ -455,6 +514,7 @@ struct SMjdTime
         m_dMjdFractMilliseconds = std::fmod(dGpsSeconds, 86400.0) * 1000.0;
     }
 
+    /// Sets GPS week and milliseconds of week (the end of the week itself is accepted).
     void SetGpsTimeMs(unsigned short unGpsWeek, double dGpsMillseconds)
     {
         ZEL_ASSERT(unGpsWeek <= c_ulMAX_GPS_WEEK && dGpsMillseconds >= 0.0 &&
@@ -464,6 +524,7 @@ struct SMjdTime
         m_dMjdFractMilliseconds = std::fmod(dGpsMillseconds, 86400000.0);
     }
 
+    /// Sets midnight of GPS day uiGpsDn (1 to 7) of the week.
     void SetGpsDay(unsigned short unGpsWeek, unsigned int uiGpsDn)
     {
         ZEL_ASSERT(unGpsWeek <= c_ulMAX_GPS_WEEK && uiGpsDn >= 1 && uiGpsDn <= c_ulDAYS_PER_WEEK);
@@ -471,7 +532,7 @@ struct SMjdTime
         m_dMjdFractMilliseconds = 0.0;
     }
 
-    // The added week is a 16-bit value: a sum past 65535 wraps.
+    /// The added week is a 16-bit value: a sum past 65535 wraps.
     void SetGpsTimeRollover(unsigned short unGpsWeek, double dGpsSeconds, bool bRollover)
     {
         SetGpsTimeMs(bRollover ? AddWeeks16(unGpsWeek, c_ulGPS_WEEK_ROLLOVER) : unGpsWeek,
@@ -479,44 +540,50 @@ struct SMjdTime
         AddMilliseconds(0.0);
     }
 
+    /// As SetGpsTimeMs, adding one 1024-week epoch to the week when bRollover is true.
     void SetGpsTimeMsRollover(unsigned short unGpsWeek, double dGpsMillseconds, bool bRollover)
     {
         SetGpsTimeMs(bRollover ? AddWeeks16(unGpsWeek, c_ulGPS_WEEK_ROLLOVER) : unGpsWeek, dGpsMillseconds);
         AddMilliseconds(0.0);
     }
 
+    /// GPS week of a 10-bit broadcast and seconds of week: adds exactly one 1024-week epoch (weeks 1024 to
+    /// 2047), whatever the present date.
     void SetGpsTime1024(unsigned short unGpsWeek, double dGpsSeconds)
     {
         SetGpsTimeMs(AddWeeks16(unGpsWeek, c_ulGPS_WEEK_ROLLOVER), dGpsSeconds * 1000.0);
         AddMilliseconds(0.0);
     }
 
+    /// As SetGpsTime1024, with milliseconds of week: adds exactly one 1024-week epoch.
     void SetGpsTimeMs1024(unsigned short unGpsWeek, double dGpsMillseconds)
     {
         SetGpsTimeMs(AddWeeks16(unGpsWeek, c_ulGPS_WEEK_ROLLOVER), dGpsMillseconds);
         AddMilliseconds(0.0);
     }
 
-    // BeiDou setters store the equivalent GPS time.
+    /// BeiDou setters store the equivalent GPS time.
     void SetBdsTime(unsigned int uiBdsWeek, double dBdsSeconds)
     {
         SetGpsTime(AddWeeks16(uiBdsWeek, c_ulGPS_WEEKS_AT_BDS_REFTIME), dBdsSeconds);
         AddMilliseconds(c_dBDS_OFFSET_MSEC);
     }
 
+    /// Sets BeiDou week and milliseconds of week, stored as the equivalent GPS time.
     void SetBdsTimeMs(unsigned int uiBdsWeek, double dBdsMilliseconds)
     {
         SetGpsTimeMs(AddWeeks16(uiBdsWeek, c_ulGPS_WEEKS_AT_BDS_REFTIME), dBdsMilliseconds);
         AddMilliseconds(c_dBDS_OFFSET_MSEC);
     }
 
-    // uiBdsDn counts from 0, the GPS day number from 1.
+    /// uiBdsDn counts from 0, the GPS day number from 1.
     void SetBdsDay(unsigned int uiBdsWeek, unsigned int uiBdsDn)
     {
         SetGpsDay(AddWeeks16(uiBdsWeek, c_ulGPS_WEEKS_AT_BDS_REFTIME), uiBdsDn + 1);
         AddMilliseconds(c_dBDS_OFFSET_MSEC);
     }
 
+    /// Sets year, day of year (1 = 1 January), hour, minute and seconds.
     void SetYearDayTime(int iYear, int iDoy, int iHour, int iMinute, double dSeconds)
     {
         const double dSecOfDay = static_cast<double>(static_cast<int64_t>(iMinute) * 60) + dSeconds +
@@ -524,6 +591,7 @@ struct SMjdTime
         SetMjdDayFract(MjdDetail::YearDayToMjd(iYear, iDoy), dSecOfDay / 86400.0);
     }
 
+    /// Sets year, day of year (1 = 1 January) and seconds of the day.
     void SetYearDaySeconds(int iYear, int iDoy, double dSecondOfDay)
     {
         SetMjdDayFract(MjdDetail::YearDayToMjd(iYear, iDoy), dSecondOfDay / 86400.0);
@@ -531,26 +599,29 @@ struct SMjdTime
 
     // ---------------------------------------------------------------- GNSS getters
 
-    // Weeks and days since the GPS epoch from the unsigned 32-bit day count:
-    // a time before the epoch gives a very large week.
+    /// Weeks and days since the GPS epoch from the unsigned 32-bit day count:
+    /// a time before the epoch gives a very large week.
     uint32_t GpsWeeks() const
     {
         return (static_cast<uint32_t>(m_lMjdDay) - static_cast<uint32_t>(c_lGPS_EPOCH_MJD)) / 7u;
     }
+    /// Day of the GPS week, 0 (Sunday) to 6, from the unsigned 32-bit day count.
     uint32_t GpsDays() const
     {
         return (static_cast<uint32_t>(m_lMjdDay) - static_cast<uint32_t>(c_lGPS_EPOCH_MJD)) % 7u;
     }
 
+    /// Full GPS week (not truncated to 10 bits).
     unsigned int GetGpsWeek() const { return GpsWeeks(); }
 
+    /// GPS week minus 1024, in 16 bits (wraps for a week below 1024).
     unsigned short GetGpsWeekModulo() const
     {
         return static_cast<unsigned short>(static_cast<unsigned short>(GpsWeeks()) - c_ulGPS_WEEK_ROLLOVER);
     }
 
-    // Integer milliseconds of the week; a carry into the next week gives the
-    // small value and no week.
+    /// Integer milliseconds of the week; a carry into the next week gives the
+    /// small value and no week.
     unsigned int GetGpsMilliseconds() const
     {
         uint32_t ulWeek = 0;
@@ -559,14 +630,18 @@ struct SMjdTime
         return ulMs;
     }
 
+    /// Seconds of the GPS week, not rounded.
     double GetGpsSeconds() const { return (GpsDays() * 86400000.0 + m_dMjdFractMilliseconds) / 1000.0; }
 
+    /// Full GPS week and seconds of week, not rounded.
     void GetGpsTime(unsigned short& runGpsWeek, double& rdSeconds) const
     {
         runGpsWeek = static_cast<unsigned short>(GpsWeeks());
         rdSeconds = (GpsDays() * 86400000.0 + m_dMjdFractMilliseconds) / 1000.0;
     }
 
+    /// GPS week and integer milliseconds of week, rounded; a carry past the week's end moves to the next
+    /// week.
     void GetGpsTimeMs(unsigned short& runGpsWeek, unsigned int& ruiMilliseconds) const
     {
         uint32_t ulWeek = 0;
@@ -574,6 +649,8 @@ struct SMjdTime
         runGpsWeek = static_cast<unsigned short>(ulWeek);
     }
 
+    /// GPS week and seconds of week rounded to the millisecond; with bRollover the week less one 1024-week
+    /// epoch.
     void GetGpsTimeRounded(unsigned short& runGpsWeek, double& rdSeconds, bool bRollover) const
     {
         unsigned int uiMs = 0;
@@ -581,6 +658,8 @@ struct SMjdTime
         rdSeconds = uiMs / 1000.0;
     }
 
+    /// GPS week and rounded milliseconds of week; with bRollover the week less 1024 (a week below 1024 is
+    /// reported and kept).
     void GetGpsTimeMsRollover(unsigned short& runGpsWeek, unsigned int& ruiMilliseconds, bool bRollover) const
     {
         GetGpsTimeMs(runGpsWeek, ruiMilliseconds);
@@ -597,17 +676,19 @@ struct SMjdTime
         }
     }
 
+    /// GPS week less one 1024-week epoch and seconds of week rounded to the millisecond.
     void GetGpsTimeRounded1024(unsigned short& runGpsWeek, double& rdSeconds) const
     {
         GetGpsTimeRounded(runGpsWeek, rdSeconds, true);
     }
 
+    /// GPS week less one 1024-week epoch and rounded milliseconds of week.
     void GetGpsTimeMs1024(unsigned short& runGpsWeek, unsigned int& ruiMilliseconds) const
     {
         GetGpsTimeMsRollover(runGpsWeek, ruiMilliseconds, true);
     }
 
-    // Day number 1 to 7; the day's first half rounds down to the previous day.
+    /// Day number 1 to 7; the day's first half rounds down to the previous day.
     void GetGpsDay(unsigned short& runGpsWeek, unsigned char& rucGpsDn) const
     {
         runGpsWeek = static_cast<unsigned short>(GpsWeeks());
@@ -621,6 +702,7 @@ struct SMjdTime
         }
     }
 
+    /// BeiDou week and rounded milliseconds of week (BeiDou time = GPS time - 14 s).
     void GetBdsTimeMs(unsigned int& ruiBdsWeek, unsigned int& ruiMilliseconds) const
     {
         uint32_t uiBdsWeek = 0;
@@ -645,6 +727,7 @@ struct SMjdTime
         ruiMilliseconds = ulMs;
     }
 
+    /// BeiDou week and seconds of week rounded to the millisecond.
     void GetBdsTime(unsigned int& ruiBdsWeek, double& rdSeconds) const
     {
         unsigned int uiMs = 0;
@@ -652,7 +735,7 @@ struct SMjdTime
         rdSeconds = uiMs / 1000.0;
     }
 
-    // Day number 0 to 6.
+    /// Day number 0 to 6.
     void GetBdsDay(unsigned short& runBdsWeek, unsigned char& rucBdsDn) const
     {
         unsigned int uiWeek = 0;
@@ -672,18 +755,22 @@ struct SMjdTime
 
     // ---------------------------------------------------------------- Julian and calendar getters
 
+    /// Julian date in days.
     double GetJulianDate() const
     {
         return m_dMjdFractMilliseconds / 86400000.0 + m_lMjdDay + c_dJD_MJD_OFFSET;
     }
+    /// Modified Julian date in days, the time of day as its fraction.
     double GetMjd() const { return m_dMjdFractMilliseconds / 86400000.0 + m_lMjdDay; }
 
+    /// Day and time of day as a fraction of a day.
     void GetMjdDayFract(int32_t& rlDay, double& rdFract) const
     {
         rlDay = m_lMjdDay;
         rdFract = m_dMjdFractMilliseconds / 86400000.0;
     }
 
+    /// Calendar date, hour, minute and seconds of the minute.
     void GetDate(int& riYear, int& riMonth, int& riDay, int& riHour, int& riMinute, double& rdSeconds) const
     {
         CalendarDate(riYear, riMonth, riDay);
@@ -697,6 +784,7 @@ struct SMjdTime
         rdSeconds = s;
     }
 
+    /// Calendar year, month and day with the time of day as fraction of the day.
     void GetDate(int& riYear, int& riMonth, double& rdDay) const
     {
         int iDay = 0;
@@ -704,6 +792,7 @@ struct SMjdTime
         rdDay = iDay + m_dMjdFractMilliseconds / 86400000.0;
     }
 
+    /// Calendar year.
     int GetYear() const
     {
         int iYear = 0, iMonth = 0, iDay = 0;
@@ -711,6 +800,7 @@ struct SMjdTime
         return iYear;
     }
 
+    /// Calendar month, 1 to 12.
     int GetMonth() const
     {
         int iYear = 0, iMonth = 0, iDay = 0;
@@ -718,6 +808,7 @@ struct SMjdTime
         return iMonth;
     }
 
+    /// Day of the month, from 1.
     int GetDayOfMonth() const
     {
         int iYear = 0, iMonth = 0, iDay = 0;
@@ -725,6 +816,7 @@ struct SMjdTime
         return iDay;
     }
 
+    /// Hour of the day, 0 to 23.
     int GetHour() const
     {
         int iYear = 0, iMonth = 0, iDay = 0, iHour = 0, iMinute = 0;
@@ -733,6 +825,7 @@ struct SMjdTime
         return iHour;
     }
 
+    /// Minute of the hour, 0 to 59.
     int GetMinute() const
     {
         int iYear = 0, iMonth = 0, iDay = 0, iHour = 0, iMinute = 0;
@@ -741,6 +834,7 @@ struct SMjdTime
         return iMinute;
     }
 
+    /// Seconds of the minute, with fraction.
     double GetSecond() const
     {
         int iYear = 0, iMonth = 0, iDay = 0, iHour = 0, iMinute = 0;
@@ -749,6 +843,7 @@ struct SMjdTime
         return dSeconds;
     }
 
+    /// Day of the year, 1 = 1 January.
     int GetDayOfYear() const
     {
         const int iYear = GetYear();
@@ -761,8 +856,8 @@ struct SMjdTime
 
     // ---------------------------------------------------------------- validity of dates
 
-    // Seconds of 60 and more carry into the minute and hour copies; day 0,
-    // negative days, hours, minutes and seconds are not tested.
+    /// Seconds of 60 and more carry into the minute and hour copies; day 0,
+    /// negative days, hours, minutes and seconds are not tested.
     static bool __IsValidDate(int iYear, int iMonth, int iDay, int iHour, int iMinute, double dSeconds)
     {
         int64_t lHour = iHour;
@@ -798,6 +893,7 @@ struct SMjdTime
         return iDay <= static_cast<int64_t>(MjdDetail::DaysInMonth(iYear, iMonth));
     }
 
+    /// True when year and month are in range and dDay does not pass the last day of that month.
     static bool __IsValidDate(int iYear, int iMonth, double dDay)
     {
         if (!IsValidYearMonth(iYear, iMonth))
@@ -809,9 +905,10 @@ struct SMjdTime
 
     // ---------------------------------------------------------------- binary form
 
+    /// Size of the byte image, in bytes.
     uint64_t getSize() const { return 16; }
 
-    // Day at 0, milliseconds at 4 (no padding), accuracy at 12.
+    /// Day at 0, milliseconds at 4 (no padding), accuracy at 12.
     template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
     {
         io.Raw(r.m_lMjdDay);
@@ -820,12 +917,14 @@ struct SMjdTime
         return true;
     }
 
+    /// Writes the byte image into pBuffer (uiBufferLength bytes); *pulOffset receives the bytes written.
+    /// False, with the report "false", on a null or short buffer.
     bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset) const
     {
         return ZelIo::SaveLeaf(*this, pBuffer, uiBufferLength, pulOffset);
     }
 
-    // Reads the fields as they stand: an out-of-range day comes in unchecked.
+    /// Reads the fields as they stand: an out-of-range day comes in unchecked.
     bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset)
     {
         return ZelIo::LoadLeaf(*this, pBuffer, uiBufferLength, pulOffset);
@@ -840,8 +939,8 @@ struct SMjdTime
     // GetTextEpoch 27, GetTextMjd 19, GetTextGps 15 (16 for a time before
     // the GPS epoch, whose 16-bit week has five digits).
 
-    // "YY MM DD hh mm ss.sssssss": year % 100, month, day, hour, minute,
-    // seconds; 26 characters. Below 26 bytes nothing is written.
+    /// "YY MM DD hh mm ss.sssssss": year % 100, month, day, hour, minute,
+    /// seconds; 26 characters. Below 26 bytes nothing is written.
     bool GetTextEpoch(char* szBuffer, size_t ulLength) const
     {
         if (szBuffer == nullptr || ulLength == 0 || ulLength < 26)
@@ -856,7 +955,7 @@ struct SMjdTime
                          ulLength);
     }
 
-    // "DDDDD MMMMMMMM.mmm": day and milliseconds of the day; 18 characters.
+    /// "DDDDD MMMMMMMM.mmm": day and milliseconds of the day; 18 characters.
     bool GetTextMjd(char* szBuffer, size_t ulLength) const
     {
         if (szBuffer == nullptr || ulLength == 0)
@@ -868,8 +967,8 @@ struct SMjdTime
                          ulLength);
     }
 
-    // "WWWW MMMMMMMMM": GPS week and rounded integer milliseconds of the
-    // week; 14 characters.
+    /// "WWWW MMMMMMMMM": GPS week and rounded integer milliseconds of the
+    /// week; 14 characters.
     bool GetTextGps(char* szBuffer, size_t ulLength) const
     {
         if (szBuffer == nullptr || ulLength == 0)
@@ -883,8 +982,8 @@ struct SMjdTime
                          ulLength);
     }
 
-    // Stream forms; values go out with the stream's current precision and
-    // flags. The accuracy is not written.
+    /// Stream forms; values go out with the stream's current precision and
+    /// flags. The accuracy is not written.
     std::ostream& WriteText(std::ostream& os, EMjdTimeTextForm eForm) const
     {
         switch (eForm)
@@ -925,11 +1024,11 @@ struct SMjdTime
                   << (GpsDays() * 86400000.0 + m_dMjdFractMilliseconds);
     }
 
-    // Knows the two GPS forms only. The stream is not tested: a failed or
-    // skipped extraction leaves its temporary at 0 (or at the limit of an
-    // overflow), and the range test alone decides. So "1000, abc" gives week
-    // 1000 at 0.0 and an empty or already failed stream gives week 0 at 0.0.
-    // A week or value out of range gives the default time, without a report.
+    /// Knows the two GPS forms only. The stream is not tested: a failed or
+    /// skipped extraction leaves its temporary at 0 (or at the limit of an
+    /// overflow), and the range test alone decides. So "1000, abc" gives week
+    /// 1000 at 0.0 and an empty or already failed stream gives week 0 at 0.0.
+    /// A week or value out of range gives the default time, without a report.
     std::istream& ReadText(std::istream& is, EMjdTimeTextForm eForm)
     {
         if (eForm != MJDTXT_GPS_SECONDS && eForm != MJDTXT_GPS_MILLISECONDS)
@@ -981,9 +1080,9 @@ private:
         return iResult >= 0 && static_cast<size_t>(iResult) < ulLength;
     }
 
-    // Carry of whole days after rounding, with no check of the day range. A
-    // non-finite or absurdly large value flows on without a carry, which
-    // would otherwise never end.
+    /// Carry of whole days after rounding, with no check of the day range. A
+    /// non-finite or absurdly large value flows on without a carry, which
+    /// would otherwise never end.
     void CarryWholeDays()
     {
         if (!(m_dMjdFractMilliseconds < 1e15))
@@ -1006,8 +1105,8 @@ private:
         }
     }
 
-    // Integer milliseconds of the GPS week, rounded; a carry past the end of
-    // the week moves to the next week.
+    /// Integer milliseconds of the GPS week, rounded; a carry past the end of
+    /// the week moves to the next week.
     void RoundGpsMs(uint32_t& rulWeek, uint32_t& rulMs) const
     {
         rulWeek = GpsWeeks();
@@ -1021,7 +1120,7 @@ private:
         }
     }
 
-    // Calendar rule, line by line in double precision.
+    /// Calendar rule, line by line in double precision.
     void CalendarDate(int& riYear, int& riMonth, int& riDay) const
     {
         const double jd = m_dMjdFractMilliseconds / 86400000.0 + m_lMjdDay + c_dJD_MJD_OFFSET + 0.5;
@@ -1038,19 +1137,21 @@ private:
     }
 };
 
-// Every record that holds a time writes and reads it as GPS week and seconds.
+/// Every record that holds a time writes and reads it as GPS week and seconds.
 inline std::ostream& operator<<(std::ostream& os, const SMjdTime& rTime)
 {
     return rTime.WriteText(os, MJDTXT_GPS_SECONDS);
 }
 
+/// Reads the record's text line by position, skipping the tag words; the caller checks the stream.
 inline std::istream& operator>>(std::istream& is, SMjdTime& rTime)
 {
     return rTime.ReadText(is, MJDTXT_GPS_SECONDS);
 }
 
-// Exported forms of the date checks.
+/// Exported forms of the date checks.
 ZELTYPES_API bool IsValidDate(int iYear, int iMonth, int iDay, int iHour, int iMinute, double dSeconds);
+/// True when year and month are in range and dDay does not pass the last day of that month.
 ZELTYPES_API bool IsValidDate(int iYear, int iMonth, double dDay);
 
 } // namespace ZELN

@@ -1,10 +1,11 @@
 #ifndef ZELTYPES_CORE_INS_ZELINSGENERICSTATE_H
 #define ZELTYPES_CORE_INS_ZELINSGENERICSTATE_H
 
-// The operations of a working state: accessors with status results, the
-// conversion between covariance and its Cholesky factor, and the tests of
-// definiteness. Sizes are fixed at compile time and the factorisations work
-// on stack copies: nothing here allocates.
+/// \file
+/// The operations of a working state: accessors with status results, the
+/// conversion between covariance and its Cholesky factor, and the tests of
+/// definiteness. Sizes are fixed at compile time and the factorisations work
+/// on stack copies: nothing here allocates.
 
 #include <ZelTypes/Core/Ins/ZelInsObservable.h>
 
@@ -17,39 +18,49 @@
 namespace ZELN
 {
 
-// A time-tagged estimate with its operations; adds no member to CZelObservable.
+/// A time-tagged estimate with its operations; adds no member to CZelObservable.
 template <class T, int N, class S = double> class CZelGenericState : public CZelObservable<T, N, S>
 {
     typedef CZelObservable<T, N, S> Base;
 
 public:
+    /// Type of the estimate.
     typedef typename Base::ValueType ValueType;
+    /// Type of the uncertainty: an N x N matrix, or the scalar for N = 1.
     typedef typename Base::CovType CovType;
 
+    /// Constructs the default state (for a record: holding no data).
     CZelGenericState() = default;
-    // Uncertainty zero, tag 0.
+    /// Uncertainty zero, tag 0.
     explicit CZelGenericState(const T& rValue) : Base(rValue) {}
+    /// Estimate with its uncertainty and the tag that says how to read it.
     CZelGenericState(const T& rValue, const CovType& rCov, EZelCovType eCovType)
         : Base(rValue, rCov, eCovType)
     {
     }
+    /// Default estimate, zero uncertainty, with the given tag.
     explicit CZelGenericState(EZelCovType eCovType) : Base(eCovType) {}
+    /// Copies another object.
     CZelGenericState(const CZelGenericState&) = default;
+    /// Copies another object into this one.
     CZelGenericState& operator=(const CZelGenericState&) = default;
+    /// Destroys the object.
     ~CZelGenericState() override = default;
 
+    /// Copies the estimate to rValue; returns 0.
     unsigned int GetValue(T& rValue) const
     {
         rValue = this->m_oValue;
         return c_uiINS_OK;
     }
+    /// Stores the estimate; returns 0.
     unsigned int SetValue(const T& rValue)
     {
         this->m_oValue = rValue;
         return c_uiINS_OK;
     }
 
-    // The uncertainty when reCovType is the stored tag (0); else 1000 and rCov untouched.
+    /// The uncertainty when reCovType is the stored tag (0); else 1000 and rCov untouched.
     unsigned int GetCov(CovType& rCov, const EZelCovType& reCovType) const
     {
         if (reCovType != this->m_eCovType)
@@ -59,6 +70,7 @@ public:
         rCov = this->m_oCov;
         return c_uiINS_OK;
     }
+    /// Stores the uncertainty and its tag; returns 0.
     unsigned int SetCov(const CovType& rCov, EZelCovType eCovType)
     {
         this->m_oCov = rCov;
@@ -66,21 +78,23 @@ public:
         return c_uiINS_OK;
     }
 
-    // Writes the tag and returns 1000 on success: the callers that read the
-    // tag ignore the result, and it stays that way.
+    /// Writes the tag and returns 1000 on success: the callers that read the
+    /// tag ignore the result, and it stays that way.
     unsigned int GetCovType(EZelCovType& reCovType) const
     {
         reCovType = this->m_eCovType;
         return c_uiINS_FAILURE;
     }
-    // Overwrites the tag alone; the matrix is not touched, so the tag can be made to lie.
+    /// Overwrites the tag alone; the matrix is not touched, so the tag can be made to lie.
     unsigned int SetCovType(EZelCovType eCovType)
     {
         this->m_eCovType = eCovType;
         return c_uiINS_OK;
     }
 
+    /// Time the estimate refers to.
     const SMjdTime& GetTime() const { return this->m_stTime; }
+    /// Sets the time the estimate refers to.
     void SetTime(const SMjdTime& rstTime)
     {
         if (&rstTime != &this->m_stTime)
@@ -89,9 +103,9 @@ public:
         }
     }
 
-    // Converts the uncertainty between covariance (1) and its lower Cholesky
-    // factor (2): 0 when done or when eNew is already the tag, 1000 when a
-    // test refuses the matrix, 1001 for any other pair; on failure nothing changes.
+    /// Converts the uncertainty between covariance (1) and its lower Cholesky
+    /// factor (2): 0 when done or when eNew is already the tag, 1000 when a
+    /// test refuses the matrix, 1001 for any other pair; on failure nothing changes.
     unsigned int ConvertCovType(EZelCovType eNew)
     {
         if (eNew == this->m_eCovType)
@@ -109,8 +123,8 @@ public:
         return c_uiINS_UNSUPPORTED;
     }
 
-    // Tag 1: LDLT of positive sign with all of D above 0; tags 2 and 3: a
-    // diagonal above 0; any other tag: false.
+    /// Tag 1: LDLT of positive sign with all of D above 0; tags 2 and 3: a
+    /// diagonal above 0; any other tag: false.
     bool IsCovPositiveDefinite() const
     {
         switch (this->m_eCovType)
@@ -133,8 +147,8 @@ public:
         }
     }
 
-    // Tag 1: LDLT of positive sign (N = 1: not below 0, so a NaN passes);
-    // tags 2 and 3: a diagonal at or above 0; any other tag: false.
+    /// Tag 1: LDLT of positive sign (N = 1: not below 0, so a NaN passes);
+    /// tags 2 and 3: a diagonal at or above 0; any other tag: false.
     bool IsCovPositiveSemiDefinite() const
     {
         switch (this->m_eCovType)
@@ -158,7 +172,7 @@ public:
     }
 
 private:
-    // Relative tolerance of the symmetry and reproduction tests of a covariance.
+    /// Relative tolerance of the symmetry and reproduction tests of a covariance.
     static constexpr S c_dCOV_PRECISION = S(1e-12);
 
     bool DiagonalAbove(S dLimit, bool bOrEqual) const
@@ -174,8 +188,8 @@ private:
         }
     }
 
-    // L * L^T after a test that L is exactly lower triangular; the scalar
-    // form squares without a test.
+    /// L * L^T after a test that L is exactly lower triangular; the scalar
+    /// form squares without a test.
     unsigned int CholeskyToCov()
     {
         if constexpr (N == 1)
@@ -195,10 +209,10 @@ private:
         return c_uiINS_OK;
     }
 
-    // The factor of a copy A, after the tests: A symmetric within 1e-12, a
-    // diagonal above 0, LLT succeeds, the factor exactly lower triangular,
-    // and L * L^T equal to A within 1e-12. The scalar form: a above 0 and
-    // (a - s^2)^2 within 1e-24 of the smaller of (s^2)^2 and a^2.
+    /// The factor of a copy A, after the tests: A symmetric within 1e-12, a
+    /// diagonal above 0, LLT succeeds, the factor exactly lower triangular,
+    /// and L * L^T equal to A within 1e-12. The scalar form: a above 0 and
+    /// (a - s^2)^2 within 1e-24 of the smaller of (s^2)^2 and a^2.
     unsigned int CovToCholesky()
     {
         if constexpr (N == 1)

@@ -1,8 +1,9 @@
 #ifndef ZELTYPES_CORE_INS_ZELINSUTILITIES_H
 #define ZELTYPES_CORE_INS_ZELINSUTILITIES_H
 
-// Small numeric helpers of the inertial tools: unit-length tests, plain
-// normalisation, the rotation of a vector by a quaternion and the skew matrix.
+/// \file
+/// Small numeric helpers of the inertial tools: unit-length tests, plain
+/// normalisation, the rotation of a vector by a quaternion and the skew matrix.
 
 #include <ZelTypes/Core/Common/ZelExport.h>
 
@@ -16,11 +17,11 @@
 namespace ZELN
 {
 
-// Tolerance of the unit-length tests of the inertial tools.
+/// Tolerance of the unit-length tests of the inertial tools.
 constexpr double c_dINS_UNIT_PRECISION = 1.0e-9;
 
-// dNum / dDen with the IEEE 754 outcome of a zero divisor (an infinity of
-// the sign of the quotient, or NaN for 0 / 0), without dividing by zero.
+/// dNum / dDen with the IEEE 754 outcome of a zero divisor (an infinity of
+/// the sign of the quotient, or NaN for 0 / 0), without dividing by zero.
 inline double DivideIeee(double dNum, double dDen)
 {
     if (dDen != 0.0)
@@ -35,26 +36,26 @@ inline double DivideIeee(double dNum, double dDen)
                                                     : std::numeric_limits<double>::infinity();
 }
 
-// The norm n is 1 in the relative sense: |n - 1| <= 1e-9 * min(n, 1). NaN fails.
+/// The norm n is 1 in the relative sense: |n - 1| <= 1e-9 * min(n, 1). NaN fails.
 inline bool IsUnitNorm(double dNorm)
 {
     return std::fabs(dNorm - 1.0) <= std::min(std::fabs(dNorm), 1.0) * c_dINS_UNIT_PRECISION;
 }
 
-// A vector of unit length (dimensionless), by IsUnitNorm of its norm.
+/// A vector of unit length (dimensionless), by IsUnitNorm of its norm.
 template <class Derived> inline bool IsNormalized(const Eigen::MatrixBase<Derived>& rVector)
 {
     return IsUnitNorm(rVector.norm());
 }
 
-// A quaternion of unit norm over its four coefficients.
+/// A quaternion of unit norm over its four coefficients.
 inline bool IsNormalized(const Eigen::Quaterniond& rQuaternion)
 {
     return IsUnitNorm(rQuaternion.norm());
 }
 
-// Every pair (i, j) and (j, i) apart by at most dPrecision times the larger
-// of the two magnitudes; with 0.0 exactly symmetric. A NaN fails.
+/// Every pair (i, j) and (j, i) apart by at most dPrecision times the larger
+/// of the two magnitudes; with 0.0 exactly symmetric. A NaN fails.
 template <class Derived> inline bool IsSymmetric(const Eigen::MatrixBase<Derived>& rMatrix, double dPrecision)
 {
     for (Eigen::Index i = 0; i < rMatrix.rows(); ++i)
@@ -72,8 +73,8 @@ template <class Derived> inline bool IsSymmetric(const Eigen::MatrixBase<Derived
     return true;
 }
 
-// Every pair (i, j) and (j, i) sums to at most dPrecision times the larger
-// magnitude, the diagonal included; with 0.0 exactly skew-symmetric.
+/// Every pair (i, j) and (j, i) sums to at most dPrecision times the larger
+/// magnitude, the diagonal included; with 0.0 exactly skew-symmetric.
 template <class Derived>
 inline bool IsSkewSymmetric(const Eigen::MatrixBase<Derived>& rMatrix, double dPrecision)
 {
@@ -92,19 +93,19 @@ inline bool IsSkewSymmetric(const Eigen::MatrixBase<Derived>& rMatrix, double dP
     return true;
 }
 
-// v divided by its norm, with no guard: a zero vector gives NaN (dimensionless result).
+/// v divided by its norm, with no guard: a zero vector gives NaN (dimensionless result).
 ZELTYPES_API Eigen::Vector3d NormalizeVector(const Eigen::Vector3d& rVector);
 
-// q divided by its norm over the four coefficients, with no guard.
+/// q divided by its norm over the four coefficients, with no guard.
 ZELTYPES_API Eigen::Quaterniond NormalizeQuaternion(const Eigen::Quaterniond& rQuaternion);
 
-// q (x) v: v rotated by the quaternion q, as t = 2 (u x v), v + w t + u x t
-// with u the vector part and w the scalar part; v keeps its unit.
+/// q (x) v: v rotated by the quaternion q, as t = 2 (u x v), v + w t + u x t
+/// with u the vector part and w the scalar part; v keeps its unit.
 ZELTYPES_API Eigen::Vector3d RotateVector(const Eigen::Quaterniond& rQuaternion,
                                           const Eigen::Vector3d& rVector);
 
-// [a x]: the skew matrix of a, so that [a x] b = a x b; a keeps its unit.
-// Checks "A.isSkewSymmetric(0.0)" on the first call in the process.
+/// [a x]: the skew matrix of a, so that [a x] b = a x b; a keeps its unit.
+/// Checks "A.isSkewSymmetric(0.0)" on the first call in the process.
 ZELTYPES_API Eigen::Matrix3d MakeSkew(const Eigen::Vector3d& a);
 
 } // namespace ZELN

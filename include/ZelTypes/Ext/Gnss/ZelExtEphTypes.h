@@ -1,7 +1,8 @@
 #ifndef ZELTYPES_EXT_GNSS_ZELEXTEPHTYPES_H
 #define ZELTYPES_EXT_GNSS_ZELEXTEPHTYPES_H
 
-// The broadcast ephemeris family as a whole.
+/// \file
+/// The broadcast ephemeris family as a whole.
 
 #include <ZelTypes/Ext/Gnss/ZelExtEphBase.h>
 #include <ZelTypes/Ext/Gnss/ZelExtEphBeiDou.h>

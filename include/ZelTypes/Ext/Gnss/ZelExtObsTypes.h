@@ -1,8 +1,9 @@
 #ifndef ZELTYPES_EXT_GNSS_ZELEXTOBSTYPES_H
 #define ZELTYPES_EXT_GNSS_ZELEXTOBSTYPES_H
 
-// The external form of an observation epoch: the epoch followed by a short
-// record of the station that observed it.
+/// \file
+/// The external form of an observation epoch: the epoch followed by a short
+/// record of the station that observed it.
 
 #include <ZelTypes/Core/Common/ZelAssert.h>
 #include <ZelTypes/Core/Common/ZelCompare.h>
@@ -19,23 +20,30 @@
 namespace ZELN
 {
 
+/// Size of the SZelObsInfo image, in bytes.
 constexpr uint64_t c_ulOBSINFO_SIZE = 40;
-constexpr uint64_t c_ulEXTOBSEPOCH_EXTRA_SIZE = 44; // epoch length and station record
+constexpr uint64_t c_ulEXTOBSEPOCH_EXTRA_SIZE = 44; ///< epoch length and station record
 
-// The station record, 40 bytes as it stands in memory.
+/// The station record, 40 bytes as it stands in memory.
 struct ZELTYPES_API SZelObsInfo
 {
-    SMjdTime stStaticSince; // start of the present static period, accuracy NANOSECOND by default
+    SMjdTime stStaticSince; ///< start of the present static period, accuracy NANOSECOND by default
+    /// Time status, the producer's code; carried, not interpreted.
     uint8_t ucTimeStatus = 0;
+    /// Observation flags, the producer's bits; carried, not interpreted.
     uint16_t unObsFlags = 0;
+    /// Data flags, the producer's bits; carried, not interpreted.
     uint8_t ucDataFlags = 0;
+    /// Station type, the producer's code; carried, not interpreted.
     uint8_t ucStationType = 0;
+    /// Station identifier.
     uint32_t ulStationId = 0;
 
+    /// Resets the record to its default state.
     void Reset() { *this = SZelObsInfo(); }
 
-    // Image: the time block at 0, status at 24, flags at 26, data flags at
-    // 28, station type at 29, station id at 32; reserved bytes as zero.
+    /// Image: the time block at 0, status at 24, flags at 26, data flags at
+    /// 28, station type at 29, station id at 32; reserved bytes as zero.
     template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
     {
         ZelIo::VisitTimeBlock(io, r.stStaticSince);
@@ -49,9 +57,9 @@ struct ZELTYPES_API SZelObsInfo
         return io.Reserved(4);
     }
 
-    // Text: the time as GPS week and seconds of week; its reader gives the
-    // default time for a week from 5966 on or seconds out of range, without
-    // a report.
+    /// Text: the time as GPS week and seconds of week; its reader gives the
+    /// default time for a week from 5966 on or seconds out of range, without
+    /// a report.
     template <class IO, class Self> static void VisitText(IO& io, Self& r)
     {
         io.Tag("StatSince, ").Form(r.stStaticSince, MJDTXT_GPS_SECONDS);
@@ -62,33 +70,40 @@ struct ZELTYPES_API SZelObsInfo
         io.Tag(", StnId, ").Value(r.ulStationId);
     }
 
+    /// Size of the byte image, in bytes.
     uint64_t getSize() const { return ZelIo::SizeOf(*this); }
-    // The used-bytes output is optional, so that the record also serves as
-    // an exchange record with the two-argument calls.
+    /// The used-bytes output is optional, so that the record also serves as
+    /// an exchange record with the two-argument calls.
     bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset = nullptr) const
     {
         return ZelIo::SaveLeaf(*this, pBuffer, uiBufferLength, pulOffset);
     }
+    /// Reads the byte image from pBuffer (uiBufferLength bytes); *pulOffset receives the bytes read. False on
+    /// a null or short buffer; fields read before a failure keep their new values.
     bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset = nullptr)
     {
         return ZelIo::LoadLeaf(*this, pBuffer, uiBufferLength, pulOffset);
     }
 
+    /// True when the two records are equal, field by field.
     bool operator==(const SZelObsInfo& rhs) const;
 };
 
-// The external form of an epoch: the epoch and its station record.
+/// The external form of an epoch: the epoch and its station record.
 struct ZELTYPES_API ZelExtObsEpoch
 {
+    /// The observation epoch.
     SZelObservationEpoch stObsEpoch;
+    /// The station record.
     SZelObsInfo stObsInfo;
 
+    /// The station record's time status.
     uint8_t GetTimeStatus() const { return stObsInfo.ucTimeStatus; }
 
-    // Image: a 32-bit length holding the epoch's size, the epoch, the
-    // station record. The two directions differ in the length: the writer
-    // takes it from the epoch, the reader tests the stored one against the
-    // room and reads the epoch within it.
+    /// Image: a 32-bit length holding the epoch's size, the epoch, the
+    /// station record. The two directions differ in the length: the writer
+    /// takes it from the epoch, the reader tests the stored one against the
+    /// room and reads the epoch within it.
     template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
     {
         if constexpr (IO::c_bLoading)
@@ -124,33 +139,41 @@ struct ZELTYPES_API ZelExtObsEpoch
         }
     }
 
-    // Text: the epoch, ", ObsInfo, " and the station record.
+    /// Text: the epoch, ", ObsInfo, " and the station record.
     template <class IO, class Self> static void VisitText(IO& io, Self& r)
     {
         io.Value(r.stObsEpoch).Tag(", ObsInfo, ").Value(r.stObsInfo);
     }
 
+    /// Size of the byte image, in bytes.
     uint64_t getSize() const { return stObsEpoch.getSize() + c_ulEXTOBSEPOCH_EXTRA_SIZE; }
+    /// Writes the byte image into pBuffer (uiBufferLength bytes); *pulOffset receives the bytes written.
+    /// False, with the report "false", on a null or short buffer.
     bool saveData(unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset = nullptr) const
     {
         return ZelIo::SaveLeaf(*this, pBuffer, uiBufferLength, pulOffset);
     }
-    // The first bounds test looks at the present content, the second at the
-    // stored length.
+    /// The first bounds test looks at the present content, the second at the
+    /// stored length.
     bool loadData(const unsigned char* pBuffer, uint64_t uiBufferLength, uint64_t* pulOffset = nullptr)
     {
         return ZelIo::LoadLeaf(*this, pBuffer, uiBufferLength, pulOffset);
     }
 
+    /// True when the two records are equal, field by field.
     bool operator==(const ZelExtObsEpoch& rhs) const
     {
         return stObsEpoch == rhs.stObsEpoch && stObsInfo == rhs.stObsInfo;
     }
 };
 
+/// Writes the record as one line of tag words and values, with no line end.
 ZELTYPES_API std::ostream& operator<<(std::ostream& os, const SZelObsInfo& rstObsInfo);
+/// Reads the record's text line by position, skipping the tag words; the caller checks the stream.
 ZELTYPES_API std::istream& operator>>(std::istream& is, SZelObsInfo& rstObsInfo);
+/// Writes the record as one line of tag words and values, with no line end.
 ZELTYPES_API std::ostream& operator<<(std::ostream& os, const ZelExtObsEpoch& rstExtEpoch);
+/// Reads the record's text line by position, skipping the tag words; the caller checks the stream.
 ZELTYPES_API std::istream& operator>>(std::istream& is, ZelExtObsEpoch& rstExtEpoch);
 
 } // namespace ZELN
