@@ -59,10 +59,12 @@ void ConvGeographicToCartesian(double dLat, double dLon, double dHeight, double&
 {
     const double dSinLat = std::sin(dLat);
     const double dCosLat = std::cos(dLat);
-    const double dSinLon = std::sin(dLon);
-    const double dCosLon = std::cos(dLon);
+    // The radius of curvature before the longitude: its square root can run
+    // while the sine and cosine of the longitude are computed.
     const double dW = 1.0 - dSinLat * c_dWGS84_ECC_SQUARED * dSinLat;
     const double dN = c_dWGS84_SEMI_MAJOR_AXIS / std::sqrt(dW);
+    const double dSinLon = std::sin(dLon);
+    const double dCosLon = std::cos(dLon);
     rdX = (dN + dHeight) * dCosLat * dCosLon;
     rdY = (dN + dHeight) * dCosLat * dSinLon;
     rdZ = (dN * c_dWGS84_ONE_MINUS_ECC_SQUARED + dHeight) * dSinLat;

@@ -35,6 +35,7 @@ struct ZELTYPES_API SZelDOP
     uint16_t unPDOP = 0;    ///< position DOP, producer's scale
     uint16_t unNumSats = 0; ///< satellites in the solution
 
+    /// Restores the defaults.
     void Reset() { *this = SZelDOP(); }
 
     /// Image, 12 bytes: the six values in field order.
@@ -97,6 +98,7 @@ struct ZELTYPES_API SZelFrqSatUsage
     /// The bit of iSatNumber modulo 64.
     bool IsSatUsed(int iSatNumber) const;
 
+    /// Restores the defaults.
     void Reset() { *this = SZelFrqSatUsage(); }
 
     /// Image, 13 bytes, unaligned: signal 4, count 1, bit map 8.
@@ -139,7 +141,7 @@ constexpr size_t c_ulNB_USAGE_FREQUENCIES = 6;
 /// The satellites of one system: available, used, and used per signal.
 struct ZELTYPES_API SZelSysSatUsage
 {
-    EZelSatSystem eSatSystem = ZELSATSYSTEM_NONE;
+    EZelSatSystem eSatSystem = ZELSATSYSTEM_NONE;             ///< the system these satellites belong to
     uint8_t ucNumAvl = 0;                                     ///< satellites available
     uint8_t ucNumUse = 0;                                     ///< satellites used
     SZelFrqSatUsage astUsedPerFreq[c_ulNB_USAGE_FREQUENCIES]; ///< at most six signals, in slot order
@@ -149,6 +151,7 @@ struct ZELTYPES_API SZelSysSatUsage
     /// new on one signal. Signals this record lacks are dropped.
     void Add(const SZelSysSatUsage& rstOther);
 
+    /// Restores the defaults.
     void Reset() { *this = SZelSysSatUsage(); }
 
     /// Image, 84 bytes: system 4, available 1, used 1, the six slots.
@@ -212,8 +215,8 @@ constexpr size_t c_ulNB_USAGE_SYSTEMS = 8;
 /// min(ucNumSysObs, 8) entries only; comparison and both forms take all eight.
 struct ZELTYPES_API SZelGnssAvailability
 {
-    uint8_t ucNumSysObs = 0; ///< entries that count
-    SZelSysSatUsage astSysUsage[c_ulNB_USAGE_SYSTEMS];
+    uint8_t ucNumSysObs = 0;                           ///< entries that count
+    SZelSysSatUsage astSysUsage[c_ulNB_USAGE_SYSTEMS]; ///< one entry per system, the first ucNumSysObs count
 
     /// Bit map of the first entry of the system that holds the signal; 0 when none does.
     uint64_t GetBitMapUse(EZelFrequency eFrequency, EZelSatSystem eSatSystem) const;
@@ -227,6 +230,7 @@ struct ZELTYPES_API SZelGnssAvailability
     /// Whether the satellite is used on any signal of its system's first entry.
     bool IsSatUsed(const SZelSatID& stSatId) const;
 
+    /// Restores the defaults.
     void Reset() { *this = SZelGnssAvailability(); }
 
     /// Image, 673 bytes: count 1, the eight systems.
@@ -277,19 +281,21 @@ ZELTYPES_API std::istream& operator>>(std::istream& is, SZelGnssAvailability& rA
 /// Kind of reference network correction; 32 bits in images.
 enum EZelNetType : int32_t
 {
-    ZELNETTYPE_INVALID = -1,
-    ZELNETTYPE_NONE = 0,
-    ZELNETTYPE_VRS = 1,
-    ZELNETTYPE_ITEV = 2,
-    ZELNETTYPE_FKP = 3,
-    ZELNETTYPE_MAC = 4,
-    ZELNETTYPE_SSR = 5
+    ZELNETTYPE_INVALID = -1, ///< text "Invalid"; also what the reader gives for an unknown word
+    ZELNETTYPE_NONE = 0,     ///< no network correction; text "None"
+    ZELNETTYPE_VRS = 1,      ///< text "VRS"
+    ZELNETTYPE_ITEV = 2,     ///< text "iTEV"
+    ZELNETTYPE_FKP = 3,      ///< text "FKP"
+    ZELNETTYPE_MAC = 4,      ///< master-auxiliary corrections; text "MAC"
+    ZELNETTYPE_SSR = 5       ///< state-space corrections; text "SSR"
 };
 
 /// Words of the text form, indexed by value; anything else is "Invalid".
 constexpr const char* c_aszNetTypeWords[] = {"None", "VRS", "iTEV", "FKP", "MAC", "SSR"};
+/// Number of words in c_aszNetTypeWords.
 constexpr size_t c_ulNbNetTypeWords = 6;
 
+/// Word of the text form for eNetType; "Invalid" for any value outside 0 to 5.
 ZELTYPES_API const char* ToNetTypeWord(EZelNetType eNetType);
 /// One token; an unknown word gives ZELNETTYPE_INVALID.
 ZELTYPES_API EZelNetType ReadNetTypeWord(std::istream& is);
@@ -297,10 +303,11 @@ ZELTYPES_API EZelNetType ReadNetTypeWord(std::istream& is);
 /// The reference network behind a fix.
 struct ZELTYPES_API SZelNrtkInfo
 {
-    uint8_t ucNumRefStations = 0; ///< reference stations that took part
-    bool bInsideNetwork = false;  ///< the rover lies inside the network
-    EZelNetType eNetType = ZELNETTYPE_NONE;
+    uint8_t ucNumRefStations = 0;           ///< reference stations that took part
+    bool bInsideNetwork = false;            ///< the rover lies inside the network
+    EZelNetType eNetType = ZELNETTYPE_NONE; ///< kind of network correction used
 
+    /// Restores the defaults.
     void Reset() { *this = SZelNrtkInfo(); }
 
     /// Image, 6 bytes: stations 1, inside 1, kind 4.
@@ -354,8 +361,8 @@ struct ZELTYPES_API SZelPosQuality
     /// X, Y, Z earth-fixed for a cartesian one).
     float afQ[c_ulNB_POSQ_VALUES] = {0.0f, 0.0f, 0.0f, 0.0f, 0.0f, 0.0f};
 
-    /// Trace of the 3d, horizontal and vertical parts of afQ, summed in
-    /// 32 bits; a negative trace is reported and gives 0.0.
+    /// 3d trace (afQ[2] + afQ[0]) + afQ[5], summed in 32 bits; a negative
+    /// trace is reported and gives 0.0.
     double GetTraceQ3d() const
     {
         const double dTraceQ3d = static_cast<double>((afQ[2] + afQ[0]) + afQ[5]);
@@ -363,28 +370,34 @@ struct ZELTYPES_API SZelPosQuality
         // The root of the sigma would not be a number.
         return dTraceQ3d >= 0.0 ? dTraceQ3d : 0.0;
     }
+    /// Horizontal trace afQ[2] + afQ[0], summed in 32 bits; a negative trace is reported and gives 0.0.
     double GetTraceQ2d() const
     {
         const double dTraceQ2d = static_cast<double>(afQ[2] + afQ[0]);
         ZEL_ASSERT(dTraceQ2d >= 0.0);
         return dTraceQ2d >= 0.0 ? dTraceQ2d : 0.0;
     }
+    /// Vertical trace afQ[5]; a negative value is reported and gives 0.0.
     double GetTraceQ1d() const
     {
         const double dTraceQ1d = static_cast<double>(afQ[5]);
         ZEL_ASSERT(dTraceQ1d >= 0.0);
         return dTraceQ1d >= 0.0 ? dTraceQ1d : 0.0;
     }
-    /// fMo times the root of the trace: 3d, horizontal and vertical sigma,
-    /// in the unit of the covariance's root (m for positions).
+    /// 3d sigma: fMo times the root of GetTraceQ3d(), in the unit of the
+    /// covariance's root (m for positions).
     double GetSigma3d() const { return static_cast<double>(fMo) * std::sqrt(GetTraceQ3d()); }
+    /// Horizontal sigma: fMo times the root of GetTraceQ2d(), in the same unit.
     double GetSigma2d() const { return static_cast<double>(fMo) * std::sqrt(GetTraceQ2d()); }
+    /// Vertical sigma: fMo times the root of GetTraceQ1d(), in the same unit.
     double GetSigma1d() const { return static_cast<double>(fMo) * std::sqrt(GetTraceQ1d()); }
 
-    /// Sigmas of a geographic record (m): sqrt(fMo^2 q), the product in
-    /// 32 bits. Any other system is reported and the value still returned.
+    /// North sigma of a geographic record (m): sqrt(fMo^2 afQ[0]), the product
+    /// in 32 bits. Any other system is reported and the value still returned.
     double GetSigmaNorth() const;
+    /// East sigma of a geographic record (m), as GetSigmaNorth() with afQ[2].
     double GetSigmaEast() const;
+    /// Height sigma of a geographic record (m), as GetSigmaNorth() with afQ[5].
     double GetSigmaHeight() const;
 
     /// Turns the covariance between cartesian (0) and geographic (1) by the
@@ -393,6 +406,7 @@ struct ZELTYPES_API SZelPosQuality
     /// rotation, the same system or any other pair does nothing.
     void Transform(EZelCoordinateSystem eTarget, const double* adRotation);
 
+    /// Restores the defaults.
     void Reset() { *this = SZelPosQuality(); }
 
     /// Image, 36 bytes: system 4, fMo 4, fMoUnscaled 4, the six values.
@@ -437,21 +451,23 @@ ZELTYPES_API std::istream& operator>>(std::istream& is, SZelPosQuality& rQuality
 /// The kind of a position; 32 bits in images.
 enum EZelCoordType : int32_t
 {
-    ZELCOORDTYPE_INVALID = -1,
-    ZELCOORDTYPE_UNKNOWN = 0,
-    ZELCOORDTYPE_APRIORI = 1,
-    ZELCOORDTYPE_REF = 2,
-    ZELCOORDTYPE_ROVCALC = 3,
-    ZELCOORDTYPE_KNWMRK = 4,
-    ZELCOORDTYPE_VRSREF = 5,
-    ZELCOORDTYPE_IPRODROV = 6
+    ZELCOORDTYPE_INVALID = -1, ///< text "Invalid"; also what the reader gives for an unknown word
+    ZELCOORDTYPE_UNKNOWN = 0,  ///< kind not known; text "Unknown"
+    ZELCOORDTYPE_APRIORI = 1,  ///< a-priori position; text "Apriori"
+    ZELCOORDTYPE_REF = 2,      ///< reference position; text "Ref"
+    ZELCOORDTYPE_ROVCALC = 3,  ///< computed rover position; text "RovCalc"
+    ZELCOORDTYPE_KNWMRK = 4,   ///< known mark; text "KnwMrk"
+    ZELCOORDTYPE_VRSREF = 5,   ///< text "VrsRef"
+    ZELCOORDTYPE_IPRODROV = 6  ///< text "IProdRov"
 };
 
 /// Words of the text form, indexed by value; anything else is "Invalid".
 constexpr const char* c_aszCoordTypeWords[] = {"Unknown", "Apriori", "Ref",     "RovCalc",
                                                "KnwMrk",  "VrsRef",  "IProdRov"};
+/// Number of words in c_aszCoordTypeWords.
 constexpr size_t c_ulNbCoordTypeWords = 7;
 
+/// Word of the text form for eCoordType; "Invalid" for any value outside 0 to 6.
 ZELTYPES_API const char* ToCoordTypeWord(EZelCoordType eCoordType);
 /// One token; an unknown word gives ZELCOORDTYPE_INVALID.
 ZELTYPES_API EZelCoordType ReadCoordTypeWord(std::istream& is);
@@ -461,12 +477,13 @@ ZELTYPES_API EZelCoordType ReadCoordTypeWord(std::istream& is);
 /// also a raw block of the station configuration: keep the field order.
 struct ZELTYPES_API SZelPosition
 {
-    EZelCoordType eCoordType = ZELCOORDTYPE_UNKNOWN;
-    uint8_t ucAvail = 0;         ///< availability, set by the producer
-    SZelCoordinateTriplet stPos; ///< the coordinates (units by the triplet's type)
-    SZelPosQuality stPosQ;       ///< their covariance
-    bool bNonPhysical = false;   ///< the point is no physical mark
+    EZelCoordType eCoordType = ZELCOORDTYPE_UNKNOWN; ///< kind of the position
+    uint8_t ucAvail = 0;                             ///< availability, set by the producer
+    SZelCoordinateTriplet stPos;                     ///< the coordinates (units by the triplet's type)
+    SZelPosQuality stPosQ;                           ///< their covariance
+    bool bNonPhysical = false;                       ///< the point is no physical mark
 
+    /// Restores the defaults.
     void Reset() { *this = SZelPosition(); }
 
     /// Image: kind 4, availability 1, triplet (28), quality (36), flag 1.

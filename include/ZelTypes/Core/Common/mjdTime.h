@@ -132,6 +132,69 @@ inline int32_t YearDayToMjd(int iYear, int iDoy)
                        (d / 4) * 1461 - d / 100 + (d % 4) * 365);
 }
 
+/// floor(x / dUnit) for 0 <= x < 1e12 and a whole unit that is not a power of
+/// two (60, 3600, 86400, 86400000). For such units the quotient rounded to a
+/// double never reaches the next whole number early, so this is also
+/// trunc(x / dUnit) as the division gives it; a product by the reciprocal and
+/// one correction either way find it without the division.
+inline int64_t FloorQuotient(double x, double dUnit, double dInvUnit)
+{
+    int64_t lQuot = static_cast<int64_t>(x * dInvUnit);
+    if (static_cast<double>(lQuot) * dUnit > x)
+    {
+        --lQuot;
+    }
+    else if (static_cast<double>(lQuot + 1) * dUnit <= x)
+    {
+        ++lQuot;
+    }
+    return lQuot;
+}
+
+/// Range of FloorQuotient; NaN is outside.
+inline bool IsQuotientRange(double x)
+{
+    return x >= 0.0 && x < 1e12;
+}
+
+/// Whole days and their rest of a span of GPS time: the division and fmod of
+/// the GPS setters, exact for 0 <= x < 1e12. The rest x - lDays * dDay is
+/// exact there, as fmod is, and keeps the sign of a negative zero.
+inline void SplitDays(double x, double dDay, double dInvDay, int64_t& rlDays, double& rdRest)
+{
+    if (IsQuotientRange(x))
+    {
+        rlDays = FloorQuotient(x, dDay, dInvDay);
+        rdRest = x - static_cast<double>(rlDays) * dDay;
+        return;
+    }
+    rlDays = TruncToInt64(x / dDay);
+    rdRest = std::fmod(x, dDay);
+}
+
+/// From 1900-03-01 to 2100-02-28 every fourth year is a leap year and the
+/// double-precision calendar rule gives the civil date; there the date comes
+/// from integers. Day index 0 is 1900-03-01.
+constexpr int32_t c_lCIVIL_FIRST_MJD = 15079;
+constexpr uint32_t c_ulCIVIL_DAYS = 73049;
+/// With at most this many milliseconds the fraction of the day cannot round
+/// the Julian date of the calendar rule up into the next day.
+constexpr double c_dCIVIL_LAST_MSEC = 86399999.0;
+
+inline void CivilFromDayIndex(uint32_t ulIndex, int& riYear, int& riMonth, int& riDay)
+{
+    // Years counted from 1 March, 1461 days to four of them.
+    const uint32_t ulQuarterDays = 4 * ulIndex + 3;
+    const uint32_t ulYears = ulQuarterDays / 1461;
+    const uint32_t ulDayOfYear = (ulQuarterDays % 1461) / 4;
+    // Months from March (0) to February (11); 153 days to five of them.
+    const uint32_t ulMonth = (5 * ulDayOfYear + 2) / 153;
+    const uint32_t ulJanFeb = ulMonth >= 10 ? 1u : 0u;
+    riDay = static_cast<int>(ulDayOfYear - (153 * ulMonth + 2) / 5 + 1);
+    riMonth = static_cast<int>(ulMonth + 3 - 12 * ulJanFeb);
+    riYear = static_cast<int>(1900 + ulYears + ulJanFeb);
+}
+
 inline bool IsLeapYear(int iYear)
 {
     return (iYear % 400 == 0) || (iYear % 4 == 0 && iYear % 100 != 0);
@@ -196,9 +259,11 @@ struct SMjdTime
         : m_lMjdDay(0), m_dMjdFractMilliseconds(0.0), m_eAccuracy(eAccuracy)
     {
         ZEL_ASSERT(uiGpsWeek <= c_ulMAX_GPS_WEEK && dGpsSeconds >= 0.0 && dGpsSeconds < c_ulSEC_PER_WEEK);
-        m_lMjdDay = MjdDetail::WrapToInt32(static_cast<int64_t>(uiGpsWeek) * 7 + c_lGPS_EPOCH_MJD +
-                                           MjdDetail::TruncToInt64(dGpsSeconds / 86400.0));
-        m_dMjdFractMilliseconds = std::fmod(dGpsSeconds, 86400.0) * 1000.0;
+        int64_t lDays = 0;
+        double dRest = 0.0;
+        MjdDetail::SplitDays(dGpsSeconds, 86400.0, 1.0 / 86400.0, lDays, dRest);
+        m_lMjdDay = MjdDetail::WrapToInt32(static_cast<int64_t>(uiGpsWeek) * 7 + c_lGPS_EPOCH_MJD + lDays);
+        m_dMjdFractMilliseconds = dRest * 1000.0;
     }
 
     /// Modified Julian date in days, with the time as its fraction.
@@ -509,9 +574,11 @@ struct SMjdTime
     void SetGpsTime(unsigned short unGpsWeek, double dGpsSeconds)
     {
         ZEL_ASSERT(unGpsWeek <= c_ulMAX_GPS_WEEK && dGpsSeconds >= 0.0 && dGpsSeconds <= c_ulSEC_PER_WEEK);
-        m_lMjdDay = MjdDetail::WrapToInt32(static_cast<int64_t>(unGpsWeek) * 7 + c_lGPS_EPOCH_MJD +
-                                           MjdDetail::TruncToInt64(dGpsSeconds / 86400.0));
-        m_dMjdFractMilliseconds = std::fmod(dGpsSeconds, 86400.0) * 1000.0;
+        int64_t lDays = 0;
+        double dRest = 0.0;
+        MjdDetail::SplitDays(dGpsSeconds, 86400.0, 1.0 / 86400.0, lDays, dRest);
+        m_lMjdDay = MjdDetail::WrapToInt32(static_cast<int64_t>(unGpsWeek) * 7 + c_lGPS_EPOCH_MJD + lDays);
+        m_dMjdFractMilliseconds = dRest * 1000.0;
     }
 
     /// Sets GPS week and milliseconds of week (the end of the week itself is accepted).
@@ -519,9 +586,11 @@ struct SMjdTime
     {
         ZEL_ASSERT(unGpsWeek <= c_ulMAX_GPS_WEEK && dGpsMillseconds >= 0.0 &&
                    dGpsMillseconds <= c_ulMSEC_PER_WEEK);
-        m_lMjdDay = MjdDetail::WrapToInt32(static_cast<int64_t>(unGpsWeek) * 7 + c_lGPS_EPOCH_MJD +
-                                           MjdDetail::TruncToInt64(dGpsMillseconds / 86400000.0));
-        m_dMjdFractMilliseconds = std::fmod(dGpsMillseconds, 86400000.0);
+        int64_t lDays = 0;
+        double dRest = 0.0;
+        MjdDetail::SplitDays(dGpsMillseconds, 86400000.0, 1.0 / 86400000.0, lDays, dRest);
+        m_lMjdDay = MjdDetail::WrapToInt32(static_cast<int64_t>(unGpsWeek) * 7 + c_lGPS_EPOCH_MJD + lDays);
+        m_dMjdFractMilliseconds = dRest;
     }
 
     /// Sets midnight of GPS day uiGpsDn (1 to 7) of the week.
@@ -548,7 +617,9 @@ struct SMjdTime
     }
 
     /// GPS week of a 10-bit broadcast and seconds of week: adds exactly one 1024-week epoch (weeks 1024 to
-    /// 2047), whatever the present date.
+    /// 2047), whatever the present date. A week broadcast since 2019-04-07 needs two epochs, so
+    /// SetGpsTime1024(297, ...) lands in 2005; ResolveGpsWeek of ZelTypes/Util finds the week near a known
+    /// time.
     void SetGpsTime1024(unsigned short unGpsWeek, double dGpsSeconds)
     {
         SetGpsTimeMs(AddWeeks16(unGpsWeek, c_ulGPS_WEEK_ROLLOVER), dGpsSeconds * 1000.0);
@@ -775,10 +846,26 @@ struct SMjdTime
     {
         CalendarDate(riYear, riMonth, riDay);
         double s = m_dMjdFractMilliseconds / 1000.0;
-        const double dHour = std::trunc(s / 3600.0);
-        s -= dHour * 3600.0;
-        const double dMinute = std::trunc(s / 60.0);
-        s -= dMinute * 60.0;
+        double dHour = 0.0;
+        double dMinute = 0.0;
+        // For s > 0 the two subtractions of the division path are exact, so
+        // the hour and the minute come from the whole minutes of s, and the
+        // seconds are s less those minutes. A negative zero takes the
+        // division path, which turns it positive.
+        if (s > 0.0 && MjdDetail::IsQuotientRange(s))
+        {
+            const int64_t lMinutes = MjdDetail::FloorQuotient(s, 60.0, 1.0 / 60.0);
+            dHour = static_cast<double>(lMinutes / 60);
+            dMinute = static_cast<double>(lMinutes % 60);
+            s -= static_cast<double>(lMinutes) * 60.0;
+        }
+        else
+        {
+            dHour = std::trunc(s / 3600.0);
+            s -= dHour * 3600.0;
+            dMinute = std::trunc(s / 60.0);
+            s -= dMinute * 60.0;
+        }
         riHour = static_cast<int>(MjdDetail::TruncToInt64(dHour));
         riMinute = static_cast<int>(MjdDetail::TruncToInt64(dMinute));
         rdSeconds = s;
@@ -1120,9 +1207,21 @@ private:
         }
     }
 
-    /// Calendar rule, line by line in double precision.
+    /// Calendar rule, line by line in double precision; on the days where it
+    /// gives the civil date, from the day number in integers.
     void CalendarDate(int& riYear, int& riMonth, int& riDay) const
     {
+        // Within a day of at most c_dCIVIL_LAST_MSEC ms the Julian date below
+        // (under 2^22, three roundings of at most 2^-31 each) truncates to
+        // the day + 2400001, and a is that + 1537.
+        const uint32_t ulIndex =
+            static_cast<uint32_t>(m_lMjdDay) - static_cast<uint32_t>(MjdDetail::c_lCIVIL_FIRST_MJD);
+        if (ulIndex < MjdDetail::c_ulCIVIL_DAYS && m_dMjdFractMilliseconds >= 0.0 &&
+            m_dMjdFractMilliseconds <= MjdDetail::c_dCIVIL_LAST_MSEC)
+        {
+            MjdDetail::CivilFromDayIndex(ulIndex, riYear, riMonth, riDay);
+            return;
+        }
         const double jd = m_dMjdFractMilliseconds / 86400000.0 + m_lMjdDay + c_dJD_MJD_OFFSET + 0.5;
         const double a = std::trunc(jd) + 1537.0;
         const double b = std::trunc((a - 122.1) / 365.25);

@@ -24,10 +24,10 @@ namespace ZELN
 /// the library never converts or scales them.
 struct ZELTYPES_API SZelMasterCoordinate
 {
-    EZelCoordinateSystem eCooSys = ZELCOORDINATESYSTEM_CARTESIAN;
-    uint16_t usStnId = 0;
+    EZelCoordinateSystem eCooSys = ZELCOORDINATESYSTEM_CARTESIAN; ///< type of the values in stMstCoo
+    uint16_t usStnId = 0;    ///< identifier of the master station, the producer's
     uint16_t usReserved = 0; ///< travels as it stands, takes no part in ==
-    SZelVector3d stMstCoo;
+    SZelVector3d stMstCoo;   ///< the three coordinates, in the units eCooSys gives them
 
     /// Image, 32 bytes: system at 0 (32 bits), station at 4, the reserved
     /// bytes at 6, the coordinate at 8 through its own test.
@@ -77,6 +77,7 @@ struct ZELTYPES_API SZelHorizontalOffset
 
     /// Constructs the default state (for a record: holding no data).
     SZelHorizontalOffset() = default;
+    /// An offset of fEast towards east and fNorth towards north.
     SZelHorizontalOffset(float fEast, float fNorth) : fHrzOffsE(fEast), fHrzOffsN(fNorth) {}
 
     /// Image, 8 bytes: east at 0, north at 4.
@@ -158,6 +159,9 @@ ZELTYPES_API bool operator==(const SZelGloCodeBias& a, const SZelGloCodeBias& b)
 /// fields are named by their position.
 struct ZELTYPES_API SZelEngineTuning
 {
+    ///@{
+    /// Tuning values with their defaults, in declaration order; the library
+    /// does not interpret them.
     double adTune0[2] = {15000.0, -1.0};
     float afTune1[4] = {0.1745329f, 20.0f, 200.0f, 0.25f}; ///< the first is 10 degrees in radians
     int32_t alTune2[8] = {63, 2, 7, 0, 5, 2, 2, 2};
@@ -174,6 +178,7 @@ struct ZELTYPES_API SZelEngineTuning
     double adTune13[8] = {0.6, 0.99, 0.0001, 4.0, 0.9, -2.0, 1.0, 1.0};
     int64_t llTune14 = 0;
     uint8_t ucTune15 = 1;
+    ///@}
 };
 
 } // namespace ZELN

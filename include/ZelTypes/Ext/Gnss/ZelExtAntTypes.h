@@ -44,14 +44,14 @@ namespace ZELN
 
 /// Band numbers of a model key: the ANTEX frequency number less one.
 constexpr uint32_t c_ulANTBAND_F01 = 0;
-constexpr uint32_t c_ulANTBAND_F02 = 1;
-constexpr uint32_t c_ulANTBAND_F03 = 2;
-constexpr uint32_t c_ulANTBAND_F04 = 3;
-constexpr uint32_t c_ulANTBAND_F05 = 4;
-constexpr uint32_t c_ulANTBAND_F06 = 5;
-constexpr uint32_t c_ulANTBAND_F07 = 6;
-constexpr uint32_t c_ulANTBAND_F08 = 7;
-constexpr uint32_t c_ulANTBAND_F09 = 8;
+constexpr uint32_t c_ulANTBAND_F02 = 1; ///< band of frequency number 02
+constexpr uint32_t c_ulANTBAND_F03 = 2; ///< band of frequency number 03
+constexpr uint32_t c_ulANTBAND_F04 = 3; ///< band of frequency number 04
+constexpr uint32_t c_ulANTBAND_F05 = 4; ///< band of frequency number 05
+constexpr uint32_t c_ulANTBAND_F06 = 5; ///< band of frequency number 06
+constexpr uint32_t c_ulANTBAND_F07 = 6; ///< band of frequency number 07
+constexpr uint32_t c_ulANTBAND_F08 = 7; ///< band of frequency number 08
+constexpr uint32_t c_ulANTBAND_F09 = 8; ///< band of frequency number 09
 
 /// Which offsets of SZelARPOffsets are filled (bits of m_eAvailability).
 enum EZelARPAvailability : uint32_t
@@ -86,8 +86,8 @@ enum EZelAntRefLevel : int32_t
 /// Names and identifiers of an antenna.
 struct ZELTYPES_API SZelAntDescriptor
 {
-    static constexpr size_t c_ulNAME_LEN = 31;
-    static constexpr size_t c_ulIGS_LEN = 32;
+    static constexpr size_t c_ulNAME_LEN = 31; ///< size of awcName, in 16-bit characters
+    static constexpr size_t c_ulIGS_LEN = 32;  ///< size of acIgsName and acSerialNo, in characters
 
     char16_t awcName[c_ulNAME_LEN] = {}; ///< local name, zero-ended; compared, never written
     char acIgsName[c_ulIGS_LEN] = {};    ///< IGS name, zero-ended when shorter than 32
@@ -137,7 +137,7 @@ struct ZELTYPES_API SZelARPOffsets
     uint32_t m_eAvailability = 0;        ///< bits of EZelARPAvailability
     SZelHorizontalOffset m_afHorzOffset; ///< of the antenna from the mark, east and north, metres
     double m_dVerticalOffset = 0.0;      ///< from the end of the height reading up to the ARP, metres
-    EZelAntReadMode m_eReadMode = ZELANTREADMODE_VERTICAL;
+    EZelAntReadMode m_eReadMode = ZELANTREADMODE_VERTICAL; ///< how the height was measured
     /// The reading of the mode: vertical height (mode 0) or slant length
     /// (mode 1), one place in metres. The library reads only the name of the
     /// mode at hand; the image copies the place's bytes.
@@ -241,11 +241,12 @@ ZELTYPES_API std::istream& operator>>(std::istream& is, SZelAntPCC& rPCC);
 /// The system and band of one calibration in a model.
 struct ZELTYPES_API SZelAntModelKey
 {
-    EZelSatSystem eSatSystem = ZELSATSYSTEM_NONE;
-    uint32_t ulFrqBand = 0; ///< ANTEX frequency number less one (c_ulANTBAND_...)
+    EZelSatSystem eSatSystem = ZELSATSYSTEM_NONE; ///< satellite system of the calibration
+    uint32_t ulFrqBand = 0;                       ///< ANTEX frequency number less one (c_ulANTBAND_...)
 
     /// Constructs the default state (for a record: holding no data).
     SZelAntModelKey() = default;
+    /// The key of band ulBand of system eSystem.
     SZelAntModelKey(EZelSatSystem eSystem, uint32_t ulBand) : eSatSystem(eSystem), ulFrqBand(ulBand) {}
 
     /// Image, 8 bytes: system at 0 (32 bits), band at 4.
@@ -288,6 +289,7 @@ ZELTYPES_API std::istream& operator>>(std::istream& is, SZelAntModelKey& rKey);
 /// The calibration model of an antenna: one SZelAntPCC per system and band.
 struct ZELTYPES_API SZelAntModel
 {
+    /// Calibrations by system and band, in no order of their own.
     typedef boost::unordered_map<SZelAntModelKey, SZelAntPCC> TMapPCCs;
 
     uint16_t unModelId = 0;   ///< identifier of the model, the producer's
@@ -338,9 +340,9 @@ ZELTYPES_API std::istream& operator>>(std::istream& is, SZelAntModel& rModel);
 /// An antenna as the core knows it: descriptor, set-up and calibration.
 struct ZELTYPES_API SZelAntennaInfo
 {
-    SZelAntDescriptor stAntDescr;
-    SZelARPOffsets m_ARPOffsets;
-    SZelAntModel stAntModel;
+    SZelAntDescriptor stAntDescr; ///< names and identifiers
+    SZelARPOffsets m_ARPOffsets;  ///< how the antenna stands above the mark
+    SZelAntModel stAntModel;      ///< calibration per system and band
 
     /// Image: descriptor at 0 (67 bytes), offsets at 67 (48 bytes), model at 115.
     template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
@@ -382,12 +384,12 @@ ZELTYPES_API std::istream& operator>>(std::istream& is, SZelAntennaInfo& rInfo);
 struct ZELTYPES_API SZelAntPCOTable
 {
     uint32_t ulValidFrqs = 0; ///< which bands are filled, the producer's bits
-    float fL1Up = 0.0f;
-    float fL2Up = 0.0f;
-    float fL1East = 0.0f;
-    float fL1North = 0.0f;
-    float fL2East = 0.0f;
-    float fL2North = 0.0f;
+    float fL1Up = 0.0f;       ///< up offset of G01, mm
+    float fL2Up = 0.0f;       ///< up offset of G02, mm
+    float fL1East = 0.0f;     ///< east offset of G01, mm
+    float fL1North = 0.0f;    ///< north offset of G01, mm
+    float fL2East = 0.0f;     ///< east offset of G02, mm
+    float fL2North = 0.0f;    ///< north offset of G02, mm
 
     /// Image, 28 bytes, in field order.
     template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
@@ -431,9 +433,9 @@ ZELTYPES_API std::istream& operator>>(std::istream& is, SZelAntPCOTable& rTable)
 /// grid is filled; all of it is always written and read.
 struct ZELTYPES_API SZelAntPCVTable
 {
-    static constexpr size_t c_ulNUM_FRQ = 2;
-    static constexpr size_t c_ulNUM_AZI = 37;
-    static constexpr size_t c_ulNUM_ELEV = 19;
+    static constexpr size_t c_ulNUM_FRQ = 2;   ///< bands of the grid, G01 and G02
+    static constexpr size_t c_ulNUM_AZI = 37;  ///< azimuths of the grid, 0 to 360 degrees in steps of 10
+    static constexpr size_t c_ulNUM_ELEV = 19; ///< zenith angles of the grid, 0 to 90 degrees in steps of 5
 
     uint32_t ulValidFrqs = 0; ///< which bands are filled, the producer's bits
     uint8_t ucNumAzi = 0;     ///< azimuths filled
@@ -478,12 +480,13 @@ ZELTYPES_API std::istream& operator>>(std::istream& is, SZelAntPCVTable& rTable)
 /// ellipsoidal height in metres.
 struct ZELTYPES_API SZelGeoCoords
 {
-    double dLat = 0.0;
-    double dLon = 0.0;
-    double dHgt = 0.0;
+    double dLat = 0.0; ///< latitude, radians
+    double dLon = 0.0; ///< longitude, radians
+    double dHgt = 0.0; ///< ellipsoidal height, metres
 
     /// Constructs the default state (for a record: holding no data).
     SZelGeoCoords() = default;
+    /// The coordinate at dLatitude, dLongitude (radians) and dHeight (metres).
     SZelGeoCoords(double dLatitude, double dLongitude, double dHeight)
         : dLat(dLatitude), dLon(dLongitude), dHgt(dHeight)
     {

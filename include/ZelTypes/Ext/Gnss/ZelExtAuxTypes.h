@@ -37,6 +37,8 @@ constexpr uint32_t c_ulNET_COMB_MSGS = 5;
 /// The satellite arrays of a message and its entries, in both directions.
 namespace ZelNetIo
 {
+/// Image of a satellite array: the fields of every entry in order, with no
+/// bounds test of their own; false at the first entry that fails.
 template <class IO, class TArray> inline bool Entries(IO& io, TArray& rastEntries)
 {
     for (auto& rEntry : rastEntries)
@@ -81,15 +83,15 @@ template <class T, size_t N> inline bool ArraysEqual(const T (&a)[N], const T (&
 /// longitude and height differences, auxiliary minus master).
 struct ZELTYPES_API SZelNetAuxStation
 {
-    uint16_t unMsgNr = 0;
-    uint8_t ucNetId = 0;
-    uint8_t ucSubNetId = 0;
-    uint8_t ucNumAux = 0;
-    uint16_t unMasterId = 0;
-    uint16_t unAuxId = 0;
-    int32_t lDeltaLat = 0; ///< scaled as in the message, north positive
-    int32_t lDeltaLon = 0; ///< scaled as in the message, east positive
-    int32_t lDeltaHgt = 0; ///< scaled as in the message, up positive
+    uint16_t unMsgNr = 0;    ///< message number, as the message carries it
+    uint8_t ucNetId = 0;     ///< network identifier
+    uint8_t ucSubNetId = 0;  ///< subnetwork identifier
+    uint8_t ucNumAux = 0;    ///< auxiliary stations, as the message counts them
+    uint16_t unMasterId = 0; ///< identifier of the master station
+    uint16_t unAuxId = 0;    ///< identifier of this auxiliary station
+    int32_t lDeltaLat = 0;   ///< scaled as in the message, north positive
+    int32_t lDeltaLon = 0;   ///< scaled as in the message, east positive
+    int32_t lDeltaHgt = 0;   ///< scaled as in the message, up positive
 
     /// Image: number at 0, network 2, subnetwork 3, count 4, master 6,
     /// auxiliary 8, deltas at 12, 16 and 20; bytes 5, 10 and 11 reserved.
@@ -134,15 +136,15 @@ struct ZELTYPES_API SZelNetAuxStation
 /// The header of a network correction message, 20 bytes.
 struct ZELTYPES_API SZelNetMsgHeader
 {
-    uint16_t unMsgNr = 0;
-    uint8_t ucNetId = 0;
-    uint8_t ucSubNetId = 0;
-    uint32_t ulTime = 0; ///< epoch time as the message scales it
-    uint8_t ucMMI = 0;   ///< multiple-message indicator
-    uint16_t unMasterId = 0;
-    uint16_t unAuxId = 0;
-    uint8_t ucNumSats = 0;
-    uint8_t ucClkBiasInd = 0;
+    uint16_t unMsgNr = 0;         ///< message number, as the message carries it
+    uint8_t ucNetId = 0;          ///< network identifier
+    uint8_t ucSubNetId = 0;       ///< subnetwork identifier
+    uint32_t ulTime = 0;          ///< epoch time as the message scales it
+    uint8_t ucMMI = 0;            ///< multiple-message indicator
+    uint16_t unMasterId = 0;      ///< identifier of the master station
+    uint16_t unAuxId = 0;         ///< identifier of the auxiliary station
+    uint8_t ucNumSats = 0;        ///< satellites the message counts; the arrays always hold 15 entries
+    uint8_t ucClkBiasInd = 0;     ///< clock bias indicator, the producer's value, not interpreted here
     int8_t cGloL1PCDiffOff = 0;   ///< scaled as in the message
     int8_t cGloL1L2PCDiffOff = 0; ///< scaled as in the message
 
@@ -196,10 +198,10 @@ struct ZELTYPES_API SZelNetMsgHeader
 /// non-synchronisation flags of the message.
 struct ZELTYPES_API SZelNetSatEntry
 {
-    uint8_t ucSatNumber = 0;
-    EZelSatSystem eSatSystem = ZELSATSYSTEM_NONE;
-    uint8_t ucAmbFlag = 0;
-    uint8_t ucNonSyncCnt = 0;
+    uint8_t ucSatNumber = 0;                      ///< satellite number within its system
+    EZelSatSystem eSatSystem = ZELSATSYSTEM_NONE; ///< system of the satellite
+    uint8_t ucAmbFlag = 0;                        ///< ambiguity flag, as the message carries it
+    uint8_t ucNonSyncCnt = 0;                     ///< non-synchronisation count, as the message carries it
 
     /// The satellite in the network's own numbering: the number for GPS, the
     /// number + 32 for GLONASS; any other system reports "0" and gives 0.
@@ -268,7 +270,7 @@ struct ZELTYPES_API SZelNetIonoEntry : SZelNetSatEntry
 struct ZELTYPES_API SZelNetGeoEntry : SZelNetSatEntry
 {
     int32_t lCorrDiff = 0; ///< scaled as in the message
-    uint8_t ucIODE = 0;
+    uint8_t ucIODE = 0;    ///< issue of data of the ephemeris the difference refers to
 
     /// Image: the head, the difference at 12, the issue at 16; 17 to 19 reserved.
     template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
@@ -301,7 +303,7 @@ struct ZELTYPES_API SZelNetCombEntry : SZelNetSatEntry
 {
     int32_t lGeoCorrDiff = 0;  ///< scaled as in the message
     int32_t lIonoCorrDiff = 0; ///< scaled as in the message
-    uint8_t ucIODE = 0;
+    uint8_t ucIODE = 0;        ///< issue of data of the ephemeris the differences refer to
 
     /// Image: the head, geometric at 12, ionospheric at 16, issue at 20; 21
     /// to 23 reserved.
@@ -336,9 +338,9 @@ struct ZELTYPES_API SZelNetCombEntry : SZelNetSatEntry
 /// entries travel and compare, whatever the header's count says.
 struct ZELTYPES_API SZelNetGeoMsg
 {
-    SZelNetMsgHeader stHeader;
-    EZelSatSystem eSatSystem = ZELSATSYSTEM_NONE;
-    SZelNetGeoEntry astEntries[c_ulNET_MAX_SATS];
+    SZelNetMsgHeader stHeader;                    ///< header of the message
+    EZelSatSystem eSatSystem = ZELSATSYSTEM_NONE; ///< system of the message
+    SZelNetGeoEntry astEntries[c_ulNET_MAX_SATS]; ///< one entry per satellite, all 15 travel and compare
 
     /// Image: header at 0, system at 20, the entries from 24.
     template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
@@ -365,9 +367,9 @@ struct ZELTYPES_API SZelNetGeoMsg
 /// The ionospheric correction differences of one system, 264 bytes.
 struct ZELTYPES_API SZelNetIonoMsg
 {
-    SZelNetMsgHeader stHeader;
-    EZelSatSystem eSatSystem = ZELSATSYSTEM_NONE;
-    SZelNetIonoEntry astEntries[c_ulNET_MAX_SATS];
+    SZelNetMsgHeader stHeader;                     ///< header of the message
+    EZelSatSystem eSatSystem = ZELSATSYSTEM_NONE;  ///< system of the message
+    SZelNetIonoEntry astEntries[c_ulNET_MAX_SATS]; ///< one entry per satellite, all 15 travel and compare
 
     /// Image: header at 0, system at 20, the entries from 24.
     template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
@@ -394,8 +396,8 @@ struct ZELTYPES_API SZelNetIonoMsg
 /// A combined message, 380 bytes; its entries name their own systems.
 struct ZELTYPES_API SZelNetCombMsg
 {
-    SZelNetMsgHeader stHeader;
-    SZelNetCombEntry astEntries[c_ulNET_MAX_SATS];
+    SZelNetMsgHeader stHeader;                     ///< header of the message
+    SZelNetCombEntry astEntries[c_ulNET_MAX_SATS]; ///< one entry per satellite, all 15 travel and compare
 
     /// Image: header at 0, the entries from 20.
     template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
@@ -424,8 +426,8 @@ struct ZELTYPES_API SZelNetCombMsg
 class ZELTYPES_API MsgGNSS17T
 {
 public:
-    SZelNetCombMsg astCombMsgs[c_ulNET_COMB_MSGS];
-    uint8_t ucFilled = 0;
+    SZelNetCombMsg astCombMsgs[c_ulNET_COMB_MSGS]; ///< the five combined messages
+    uint8_t ucFilled = 0;                          ///< bit mask of the filled messages, the producer's bits
 
     /// Constructs the default state (for a record: holding no data).
     MsgGNSS17T() = default;
@@ -446,8 +448,9 @@ public:
     /// own system stays as it was. Always true.
     static bool SplitCombMsg(const SZelNetCombMsg& rstComb, SZelNetIonoMsg& rstIono, SZelNetGeoMsg& rstGeo);
 
-    /// Image sizes of the split messages, in bytes.
+    /// Image size of the geometric part, SZelNetGeoMsg: 324 bytes.
     static uint64_t GetGeoMsgSize() { return 324; }
+    /// Image size of the ionospheric part, SZelNetIonoMsg: 264 bytes.
     static uint64_t GetIonoMsgSize() { return 264; }
 
     /// Image, 1901 bytes: the five messages, then the mask.
@@ -479,9 +482,9 @@ public:
 /// producer's (metres where it unscaled the message's integers).
 struct ZELTYPES_API SZelNetCombEntryD : SZelNetSatEntry
 {
-    double dGeoCorrDiff = 0.0;
-    uint8_t ucIODE = 0;
-    double dIonoCorrDiff = 0.0;
+    double dGeoCorrDiff = 0.0;  ///< geometric correction difference, unscaled
+    uint8_t ucIODE = 0;         ///< issue of data of the ephemeris the differences refer to
+    double dIonoCorrDiff = 0.0; ///< ionospheric correction difference, unscaled
 
     /// Image: the head, geometric at 16, issue at 24, ionospheric at 32;
     /// 12 to 15 and 25 to 31 reserved.
@@ -516,7 +519,7 @@ struct ZELTYPES_API SZelNetCombEntryD : SZelNetSatEntry
 /// The 15 unscaled combined entries of a message, 600 bytes.
 struct ZELTYPES_API SZelNetCombMsgD
 {
-    SZelNetCombEntryD astEntries[c_ulNET_MAX_SATS];
+    SZelNetCombEntryD astEntries[c_ulNET_MAX_SATS]; ///< one entry per satellite
 
     /// States the byte image field by field, in image order, for the binary writer, reader and sizer.
     template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
@@ -544,13 +547,14 @@ struct ZELTYPES_API SZelNetCombMsgD
 /// the producer's own.
 struct ZELTYPES_API SZelNetCorrPair
 {
-    SZelNetIonoMsg stIonoMsg;
-    SZelNetGeoMsg stGeoMsg;
-    SZelSatID stSatId = SZelSatID(ZELSATSYSTEM_NONE, 1);
-    uint32_t ulPairFlags = 0;
+    SZelNetIonoMsg stIonoMsg;                            ///< the ionospheric message
+    SZelNetGeoMsg stGeoMsg;                              ///< the geometric message
+    SZelSatID stSatId = SZelSatID(ZELSATSYSTEM_NONE, 1); ///< the satellite of the pair
+    uint32_t ulPairFlags = 0;                            ///< the producer's flags, not interpreted here
 
     /// Constructs the default state (for a record: holding no data).
     SZelNetCorrPair() = default;
+    /// A pair for the satellite rstSatId, everything else at its default.
     explicit SZelNetCorrPair(const SZelSatID& rstSatId) : stSatId(rstSatId) {}
 
     /// Image, 600 bytes: ionospheric message at 0, geometric at 264, the
@@ -585,12 +589,12 @@ struct ZELTYPES_API SZelNetCorrPair
 /// bytes; the gradients are scaled as in the message (north and east).
 struct ZELTYPES_API SZelNetGridEntry
 {
-    SZelSatID stSatId;
+    SZelSatID stSatId;            ///< the satellite
     uint32_t ulIOD = 0xFFFFFFFFu; ///< no issue of data
-    int16_t nIonoN = 0;
-    int16_t nIonoE = 0;
-    int16_t nGeoN = 0;
-    int16_t nGeoE = 0;
+    int16_t nIonoN = 0;           ///< ionospheric gradient towards north
+    int16_t nIonoE = 0;           ///< ionospheric gradient towards east
+    int16_t nGeoN = 0;            ///< geometric gradient towards north
+    int16_t nGeoE = 0;            ///< geometric gradient towards east
 
     /// Image: satellite at 0 (8 bytes), issue at 8, gradients at 12 to 18.
     template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
@@ -623,12 +627,12 @@ struct ZELTYPES_API SZelNetGridEntry
 /// A grid message of one system, 368 bytes.
 struct ZELTYPES_API SZelNetGridMsg
 {
-    uint16_t unNetFlags = 0;
-    uint32_t ulType = 0;
-    SMjdTime stTime = SMjdTime(MJDACC_EXACT);
-    SZelCoordinateTriplet stCoords; ///< the grid's reference point
-    uint32_t ulNumSats = 0;
-    SZelNetGridEntry astEntries[c_ulNET_MAX_SATS];
+    uint16_t unNetFlags = 0;                  ///< network flags, the producer's bits, not interpreted here
+    uint32_t ulType = 0;                      ///< type of the message, the producer's value
+    SMjdTime stTime = SMjdTime(MJDACC_EXACT); ///< time of the message
+    SZelCoordinateTriplet stCoords;           ///< the grid's reference point
+    uint32_t ulNumSats = 0;                   ///< satellites the message counts; all 15 entries travel
+    SZelNetGridEntry astEntries[c_ulNET_MAX_SATS]; ///< the gradients, one entry per satellite
 
     /// Image: flags at 0, type at 4, the time at 8 as in memory (24 bytes),
     /// the triplet at 32 as in memory (type, 4 reserved bytes, coordinates at
@@ -670,8 +674,8 @@ struct ZELTYPES_API SZelNetGridMsg
 /// A grid message with its system, 372 bytes.
 struct ZELTYPES_API SZelNetGridSysMsg
 {
-    EZelSatSystem eSatSystem = ZELSATSYSTEM_NONE;
-    SZelNetGridMsg stMsg;
+    EZelSatSystem eSatSystem = ZELSATSYSTEM_NONE; ///< system of the message
+    SZelNetGridMsg stMsg;                         ///< the grid message
 
     /// Image: system at 0 (32 bits), the message from 4.
     template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
@@ -702,7 +706,7 @@ struct ZELTYPES_API SZelNetGridSysMsg
 /// the values are in the producer's unit (the library never scales them).
 struct ZELTYPES_API SZelNetResidualEntry
 {
-    SZelSatID stSatId;
+    SZelSatID stSatId; ///< the satellite
     double dSoc = 0.0; ///< constant part of the residual
     double dSod = 0.0; ///< distance-dependent part
     double dSoh = 0.0; ///< height-dependent part
@@ -742,9 +746,9 @@ constexpr double c_dNET_RESIDUAL_TOLERANCE = 1e-7;
 /// The residual statistics of one reference station at one time.
 struct ZELTYPES_API SZelNetResidualMsg
 {
-    uint32_t ulRefStationId = 0;
-    SMjdTime stTime;
-    std::vector<SZelNetResidualEntry> vecEntries;
+    uint32_t ulRefStationId = 0;                  ///< identifier of the reference station
+    SMjdTime stTime;                              ///< time of the statistics
+    std::vector<SZelNetResidualEntry> vecEntries; ///< statistics per satellite
 
     /// Image: station at 0, the time at 4 (16 bytes), the count at 20, the
     /// entries from 24, 48 bytes each.

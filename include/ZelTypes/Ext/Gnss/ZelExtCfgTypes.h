@@ -43,6 +43,7 @@ struct ZELTYPES_API SZelDopLimit
 
     /// Constructs the default state (for a record: holding no data).
     SZelDopLimit() = default;
+    /// A limit of fLimitIn on the dilution numbered ulTypeIn.
     SZelDopLimit(uint32_t ulTypeIn, float fLimitIn) : ulType(ulTypeIn), fLimit(fLimitIn) {}
 
     /// States the byte image field by field, in image order, for the binary writer, reader and sizer.
@@ -428,27 +429,27 @@ ZELTYPES_API std::istream& operator>>(std::istream& is, SZelRtkCfg& rCfg);
 /// bUseDopplerInPos 112; bytes 6, 7, 26, 27 and 113 to 119 reserved.
 struct ZELTYPES_API SZelRtkCfgV1
 {
-    uint32_t ulProcOpt = 0;
-    uint16_t unSmoothWindow = 0;
-    double dMaxPredHpn = 15000.01;
-    double dMaxPredSsr = 600001.01;
-    uint8_t ucNumRestBefAmbFix = 1;
-    uint8_t ucNumRestBefAmbFixStat = 1;
-    uint32_t ulFltLngthBitMask = 0;
-    int16_t nFltLngthFstSrc = 1;
-    int16_t nFltLngthSrcIntFix = 10;
-    int16_t nFltLngthSrcInt = 1;
-    int16_t nFltLngthResInt = 30;
-    double dMaxAlphSrc = 0.1;
-    double dMaxAlphRes = 0.1;
-    double dPosTskCooPN = 1e20;
-    double dPosTskAmbPN = 0.0;
-    double dAmbTskCooPN = 1e10;
-    double dPosTskFltCooPN = 0.0;
-    double dQuasStatPN = -1.0;
-    double dIonoPN = -1.0;
-    double dIonoIV = -1.0;
-    bool bUseDopplerInPos = true;
+    uint32_t ulProcOpt = 0;             ///< processing options; the engine's bit set
+    uint16_t unSmoothWindow = 0;        ///< smoothing window, epochs
+    double dMaxPredHpn = 15000.01;      ///< longest prediction of high-precision corrections
+    double dMaxPredSsr = 600001.01;     ///< longest prediction of state-space corrections
+    uint8_t ucNumRestBefAmbFix = 1;     ///< restarts before an ambiguity fix
+    uint8_t ucNumRestBefAmbFixStat = 1; ///< the same in static mode
+    uint32_t ulFltLngthBitMask = 0;     ///< which filter lengths apply; the engine's bit set
+    int16_t nFltLngthFstSrc = 1;        ///< filter length of the first search, epochs
+    int16_t nFltLngthSrcIntFix = 10;    ///< search interval after a fix, epochs
+    int16_t nFltLngthSrcInt = 1;        ///< search interval, epochs
+    int16_t nFltLngthResInt = 30;       ///< reset interval, epochs
+    double dMaxAlphSrc = 0.1;           ///< significance level of the search
+    double dMaxAlphRes = 0.1;           ///< significance level of a reset
+    double dPosTskCooPN = 1e20;         ///< coordinate process noise of the position task
+    double dPosTskAmbPN = 0.0;          ///< ambiguity process noise of the position task
+    double dAmbTskCooPN = 1e10;         ///< coordinate process noise of the ambiguity task
+    double dPosTskFltCooPN = 0.0;       ///< coordinate process noise of the float solution
+    double dQuasStatPN = -1.0;          ///< quasi-static process noise; -1.0 unset
+    double dIonoPN = -1.0;              ///< ionosphere process noise; -1.0 unset
+    double dIonoIV = -1.0;              ///< ionosphere initial variance; -1.0 unset
+    bool bUseDopplerInPos = true;       ///< Doppler observations in the position
 
     /// States the byte image field by field, in image order, for the binary writer, reader and sizer.
     template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
@@ -521,9 +522,9 @@ ZELTYPES_API std::istream& operator>>(std::istream& is, SZelProcCfg& rCfg);
 /// block of 208 bytes: stGenCfg 0, stDiffCfg 64, stRtkCfg 88.
 struct ZELTYPES_API SZelProcCfgV1
 {
-    SZelGenCfg stGenCfg;
-    SZelDiffCfg stDiffCfg;
-    SZelRtkCfgV1 stRtkCfg;
+    SZelGenCfg stGenCfg;   ///< general options
+    SZelDiffCfg stDiffCfg; ///< differential options
+    SZelRtkCfgV1 stRtkCfg; ///< real-time kinematic options, older layout
 
     /// States the byte image field by field, in image order, for the binary writer, reader and sizer.
     template <class IO, class Self> static bool VisitFields(IO& io, Self& r)
@@ -660,14 +661,15 @@ ZELTYPES_API std::istream& operator>>(std::istream& is, SZelRefCfg& rCfg);
 /// How a network's corrections are used; 32 bits in images.
 enum EZelNetMode : int32_t
 {
-    ZELNETMODE_INVALID = -1,
-    ZELNETMODE_NONE = 0,
-    ZELNETMODE_MAC = 1, ///< a network cell's corrections
-    ZELNETMODE_SSR = 2  ///< state-space corrections
+    ZELNETMODE_INVALID = -1, ///< text "Invalid"; also what the reader gives for an unknown word
+    ZELNETMODE_NONE = 0,     ///< no network corrections; text "None"
+    ZELNETMODE_MAC = 1,      ///< a network cell's corrections
+    ZELNETMODE_SSR = 2       ///< state-space corrections
 };
 
 /// Words of the text form, indexed by value; anything else is "Invalid".
 constexpr const char* c_aszNetModeWords[] = {"None", "MAC", "SSR"};
+/// Number of words in c_aszNetModeWords.
 constexpr size_t c_ulNbNetModeWords = 3;
 
 /// The word of a network mode; "Invalid" for a value outside the table.

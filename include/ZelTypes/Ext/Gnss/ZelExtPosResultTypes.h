@@ -32,6 +32,7 @@ struct ZELTYPES_API SZelPosResultHeader
     uint32_t ulAvlFlags = 0;   ///< availability flags, set by the engine
     uint32_t ulPntFlags = 0;   ///< point flags, set by the engine
 
+    /// Restores the defaults.
     void Reset() { *this = SZelPosResultHeader(); }
 
     /// Image, 32 bytes: time 16, occupation 8, the two flag words 4 each.
@@ -84,6 +85,7 @@ struct ZELTYPES_API SZelPosResultExt
     int32_t lPredTime = 0;           ///< prediction time, ms
     SMjdTime stFirstStaticMarkEpoch; ///< first epoch of the static mark (day 0, accuracy 1)
 
+    /// Restores the defaults.
     void Reset() { *this = SZelPosResultExt(); }
 
     /// Image, 36 bytes: 4, 1, 2, 4, 4, 1, 4, then the time 16.
@@ -149,10 +151,10 @@ struct ZELTYPES_API SZelPosResult
     SZelPosQuality stPosQ;             ///< covariance of the position
     double adVel[3] = {0.0, 0.0, 0.0}; ///< velocity, frame of stVelQ
     SZelPosQuality stVelQ;             ///< covariance of the velocity
-    SZelDOP stDop;
-    SZelPosResultExt stExt;
-    SZelGnssAvailability stGnssAvl;
-    SZelNrtkInfo stNrtkInfo;
+    SZelDOP stDop;                     ///< dilution of precision of the fix
+    SZelPosResultExt stExt;            ///< further facts of the fix
+    SZelGnssAvailability stGnssAvl;    ///< satellites available and used, per system and signal
+    SZelNrtkInfo stNrtkInfo;           ///< reference network behind the fix
 
     /// The defaults again.
     void Reset() { *this = SZelPosResult(); }
@@ -168,22 +170,23 @@ struct ZELTYPES_API SZelPosResult
 /// coordinates and their covariances, whose scale factors it keeps.
 struct ZELTYPES_API SZelPosResultMeta
 {
-    SZelPosResultHeader stHeader;
-    uint32_t ulPosType = 0; ///< kind of fix, set by the engine
-    SZelDOP stDop;
-    SZelPosResultExt stExt;
-    SZelGnssAvailability stGnssAvl;
-    SZelNrtkInfo stNrtkInfo;
-    float fMoPos = 1.0f;         ///< a-posteriori scale factor of the position covariance
-    float fMoUnscaledPos = 1.0f; ///< the same before scaling
-    float fMoVel = 1.0f;         ///< a-posteriori scale factor of the velocity covariance
-    float fMoUnscaledVel = 1.0f; ///< the same before scaling
+    SZelPosResultHeader stHeader;   ///< timing and flags of the fix
+    uint32_t ulPosType = 0;         ///< kind of fix, set by the engine
+    SZelDOP stDop;                  ///< dilution of precision of the fix
+    SZelPosResultExt stExt;         ///< further facts of the fix
+    SZelGnssAvailability stGnssAvl; ///< satellites available and used, per system and signal
+    SZelNrtkInfo stNrtkInfo;        ///< reference network behind the fix
+    float fMoPos = 1.0f;            ///< a-posteriori scale factor of the position covariance
+    float fMoUnscaledPos = 1.0f;    ///< the same before scaling
+    float fMoVel = 1.0f;            ///< a-posteriori scale factor of the velocity covariance
+    float fMoUnscaledVel = 1.0f;    ///< the same before scaling
 
     /// Constructs the default state (for a record: holding no data).
     SZelPosResultMeta() = default;
     /// Everything but stTime; the scale factors from the two quality records.
     explicit SZelPosResultMeta(const SZelPosResult& rstPosResult);
 
+    /// Restores the defaults.
     void Reset() { *this = SZelPosResultMeta(); }
 
     /// Image, 779 bytes: header at 0, kind at 32, DOP at 36, ext at 48,
@@ -247,8 +250,8 @@ ZELTYPES_API std::istream& operator>>(std::istream& is, SZelPosResultMeta& rMeta
 /// data of the fix behind it.
 struct ZELTYPES_API ZelExtGnssPveObs
 {
-    CL_ZELX_INS_SENSOR_OBS_PVE stObs;
-    SZelPosResultMeta stMetaData;
+    CL_ZELX_INS_SENSOR_OBS_PVE stObs; ///< the position observation
+    SZelPosResultMeta stMetaData;     ///< meta data of the fix behind it
 
     /// Image: the observation's, then the meta data's; no test of the whole
     /// size: each part tests and reports itself, and the first failure ends.
