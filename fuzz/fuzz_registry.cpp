@@ -44,9 +44,15 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* pData, size_t ulSize)
     }
     if (!bLoaded)
     {
-        // A failed read leaves a record that must still write itself.
+        // A failed read leaves a record that must still write itself. Some
+        // sizes follow count fields (an SSR grid's zenith range, say), so a
+        // partly read record may claim more than its input could fill: such
+        // an image is not made.
         std::vector<unsigned char> vecAgain;
-        pRecord->Save(vecAgain);
+        if (pRecord->Size() <= 64u * ulLength + 65536u)
+        {
+            pRecord->Save(vecAgain);
+        }
         return 0;
     }
     std::vector<unsigned char> vecImage;

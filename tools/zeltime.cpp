@@ -632,7 +632,7 @@ SMjdTime ParseForm(const std::string& strForm, const std::vector<std::string>& v
         if (!(dValue >= 0.0 && dValue < dLimit))
         {
             throw SBadInput{std::string(bMs ? "milliseconds" : "seconds") + " of week '" + vecArgs[1] +
-                            "' are outside 0 to " + Fixed(dLimit, 0)};
+                            "' are outside 0 to below " + Fixed(dLimit, 0)};
         }
         const unsigned short unWeek = static_cast<unsigned short>(uiWeek);
         if (bBds)
@@ -687,7 +687,7 @@ SMjdTime ParseForm(const std::string& strForm, const std::vector<std::string>& v
         const double dSecondOfDay = vecArgs.size() > 2 ? Number(vecArgs[2], "seconds of day") : 0.0;
         if (!(dSecondOfDay >= 0.0 && dSecondOfDay < 86400.0))
         {
-            throw SBadInput{"seconds of day '" + vecArgs[2] + "' are outside 0 to 86400"};
+            throw SBadInput{"seconds of day '" + vecArgs[2] + "' are outside 0 to below 86400"};
         }
         // The year-day setter takes the day as a fraction; whole days first
         // keep the milliseconds exact.

@@ -122,9 +122,9 @@ check "zeltime leap list missing" 1 "" $'ERROR: cannot open leap-seconds file \'
     "$ZELTIME" --leap-seconds no-such.list mjd 50000
 check_match "zeltime now" 0 '^UTC: +20[0-9][0-9]-[01][0-9]-[0-3][0-9] [0-2][0-9]:[0-5][0-9]:[0-6][0-9]\.[0-9]{6}$' "" "" \
     "$ZELTIME" --now
-check "zeltime seconds out of range" 1 "" $'ERROR: seconds of week \'604800\' are outside 0 to 604800\n' "" \
+check "zeltime seconds out of range" 1 "" $'ERROR: seconds of week \'604800\' are outside 0 to below 604800\n' "" \
     "$ZELTIME" gps 2345 604800
-check "zeltime negative seconds" 1 "" $'ERROR: seconds of week \'-1\' are outside 0 to 604800\n' "" \
+check "zeltime negative seconds" 1 "" $'ERROR: seconds of week \'-1\' are outside 0 to below 604800\n' "" \
     "$ZELTIME" gps 2345 -1
 check "zeltime week not a number" 1 "" $'ERROR: week \'23x\' is not a whole number from 0 to 5965\n' "" \
     "$ZELTIME" gps 23x 0
