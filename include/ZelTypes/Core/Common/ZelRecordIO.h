@@ -592,7 +592,7 @@ public:
             return false;
         }
         return Elements(rSeq, static_cast<uint64_t>(tCount),
-                        [this](auto& rElem) { return ExtRecord(rElem); });
+                        [this](auto& rElem) { return this->ExtRecord(rElem); });
     }
 
     /// A sorted sequence sorts itself after its last element, so that its
