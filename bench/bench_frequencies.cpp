@@ -5,6 +5,7 @@
 #include <boost/make_shared.hpp>
 
 #include <atomic>
+#include <chrono>
 #include <thread>
 
 namespace
@@ -102,8 +103,9 @@ void BM_GetFrequencyGps(benchmark::State& rState)
 }
 BENCHMARK(BM_GetFrequencyGps)->Arg(0)->Arg(1)->Threads(1)->Threads(2)->UseRealTime();
 
-// GLONASS takes the table under the lock for every lookup: the shared
-// pointer's copy and release are two atomic operations on one count.
+// GLONASS reads the thread's copy of the table. With the swapper above the
+// table changes as fast as it can be built, and a reader takes it again
+// under the lock after every swap that it sees: far more than a host swaps.
 void BM_GetWavelengthGlonass(benchmark::State& rState)
 {
     StartSwapper(rState);
@@ -182,8 +184,9 @@ void BM_SnapshotThenReadGlonass(benchmark::State& rState)
 }
 BENCHMARK(BM_SnapshotThenReadGlonass)->Arg(0)->Arg(1)->ThreadRange(1, 4)->UseRealTime();
 
-// The two parts of a GLONASS lookup's overhead, apart: the lock around the
-// pointer copy, and the shared count that all readers of a table bump.
+// The two parts of taking the table after a swap (and of GetFrequencyTable),
+// apart: the lock around the pointer copy, and the shared count that all
+// holders of a table bump.
 void BM_TableLockOnly(benchmark::State& rState)
 {
     static CZelMutex s_stLock;
@@ -206,6 +209,86 @@ void BM_SharedCountOnly(benchmark::State& rState)
     }
 }
 BENCHMARK(BM_SharedCountOnly)->ThreadRange(1, 4)->UseRealTime();
+
+// A host's writer: swaps the GLONASS table of the global manager 1,000 times
+// a second, on a fixed beat (a late beat is not made up).
+class CPacedSwapper
+{
+public:
+    void Start()
+    {
+        m_bStop.store(false);
+        m_lSwaps = 0;
+        m_dSeconds = 0.0;
+        m_Thread = std::thread(
+            [this]
+            {
+                const std::chrono::steady_clock::duration tBeat = std::chrono::milliseconds(1);
+                const std::chrono::steady_clock::time_point tStart = std::chrono::steady_clock::now();
+                std::chrono::steady_clock::time_point tNext = tStart;
+                int iShift = 0;
+                while (!m_bStop.load(std::memory_order_relaxed))
+                {
+                    GetFrequencyMgr().SetGlonassFrequencies(Channels(++iShift));
+                    ++m_lSwaps;
+                    tNext += tBeat;
+                    const std::chrono::steady_clock::time_point tNow = std::chrono::steady_clock::now();
+                    if (tNext < tNow)
+                    {
+                        tNext = tNow;
+                    }
+                    std::this_thread::sleep_until(tNext);
+                }
+                m_dSeconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - tStart).count();
+            });
+    }
+    // Swaps per second while it ran.
+    double Stop()
+    {
+        m_bStop.store(true);
+        m_Thread.join();
+        return m_dSeconds > 0.0 ? static_cast<double>(m_lSwaps) / m_dSeconds : 0.0;
+    }
+
+private:
+    std::atomic<bool> m_bStop{false};
+    long m_lSwaps = 0;
+    double m_dSeconds = 0.0;
+    std::thread m_Thread;
+};
+
+CPacedSwapper g_PacedSwapper;
+
+// GLONASS lookups (wavelength of G1, the slots in turn) by 1 reader, by 2
+// readers, and by 2 readers while the paced writer swaps the table
+// (argument writer:1). CPU time per lookup of each reader: the throughput of
+// a reader is its inverse.
+void BM_GlonassLookup(benchmark::State& rState)
+{
+    if (rState.thread_index() == 0)
+    {
+        GetFrequencyMgr().SetGlonassFrequencies(Channels(0));
+        if (rState.range(0) != 0)
+        {
+            g_PacedSwapper.Start();
+        }
+    }
+    const CZelFrequencyMgr& rMgr = GetFrequencyMgr();
+    uint8_t uiSlot = 0;
+    for (auto _ : rState)
+    {
+        uiSlot = static_cast<uint8_t>(uiSlot == 24 ? 1 : uiSlot + 1);
+        benchmark::DoNotOptimize(
+            rMgr.GetWavelength(SZelSatID(ZELSATSYSTEM_GLONASS, uiSlot), ZELFREQUENCY_GROUP_1));
+    }
+    if (rState.thread_index() == 0 && rState.range(0) != 0)
+    {
+        rState.counters["swaps_per_s"] = g_PacedSwapper.Stop();
+    }
+}
+BENCHMARK(BM_GlonassLookup)->ArgName("writer")->Arg(0)->Threads(1);
+BENCHMARK(BM_GlonassLookup)->ArgName("writer")->Arg(0)->Threads(2);
+BENCHMARK(BM_GlonassLookup)->ArgName("writer")->Arg(1)->Threads(2);
 
 void BM_SetGlonassFrequencies(benchmark::State& rState)
 {

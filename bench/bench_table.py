@@ -38,13 +38,25 @@ NOT_YET = [
      "7-9x / 9-12x memcpy", "<= 1.5x"),
     ("Output record with 400 corrections: `loadData` vs memcpy", "127-228x memcpy", "<= 10x"),
     ("Ephemeris images, worst class (QZSS, Galileo) vs memcpy", "2.1-2.2x memcpy", "<= 1.5x"),
-    ("GLONASS frequency lookups", "38 ns one reader; 131 ns each of 2 readers",
-     "no lock on the read path; each of 2 readers >= 0.8x one reader alone"),
+]
+
+# Rows of several threads against one thread alone: (what, the benchmark of
+# each thread, the benchmark of one thread alone, goal as text, least
+# throughput). Throughput = alone / each, from the CPU time per call of each
+# thread; 1.00 is no loss.
+SCALING = [
+    ("GLONASS frequency lookups, each of 2 readers vs 1 reader alone",
+     "BM_GlonassLookup/writer:0/threads:2", "BM_GlonassLookup/writer:0/threads:1",
+     "no lock on the read path; each reader >= 0.8x one reader alone", 0.8),
+    ("GLONASS frequency lookups, each of 2 readers with a writer swapping 1,000/s vs 1 reader alone",
+     "BM_GlonassLookup/writer:1/threads:2", "BM_GlonassLookup/writer:0/threads:1",
+     "no lock on the read path; each reader >= 0.8x one reader alone", 0.8),
 ]
 
 
 def benchmark_filter():
     names = [r[1] for r in MEASURED] + [r[2] for r in MEASURED if r[2]]
+    names += sorted({n for r in SCALING for n in r[1:3]})
     return "^(" + "|".join(names) + ")(_|$)"
 
 
@@ -85,6 +97,15 @@ def main(argv):
         ratio = f"{o / p:.2f} ({p / o:.2f}x faster)" if p else "-"
         peer_text = f"{p:.1f}" if p else "-"
         print(f"| {what} | {o:.1f} | {peer_text} | {ratio} | {goal} | {'yes' if test(o, p) else 'no'} |")
+    for what, each, alone, goal, least in SCALING:
+        e = times.get(each)
+        a = times.get(alone)
+        if e is None or a is None:
+            missing = each if e is None else alone
+            print(f"| {what} | - | - | - | {goal} | not measured ({missing} missing) |")
+            continue
+        print(f"| {what} | {e:.1f} | {a:.1f} (1 reader) | {a / e:.2f}x the throughput of 1 reader | {goal} "
+              f"| {'yes' if a / e >= least else 'no'} |")
     for what, now, goal in NOT_YET:
         print(f"| {what} | not yet | - | {now} | {goal} | not yet |")
     host = context.get("host_name", "?")

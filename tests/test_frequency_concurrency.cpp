@@ -3,9 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include <boost/weak_ptr.hpp>
+
 #include <atomic>
 #include <chrono>
 #include <cmath>
+#include <memory>
+#include <new>
 #include <thread>
 #include <vector>
 
@@ -266,6 +270,228 @@ TEST(FrequencyConcurrency, GlobalManagerReadersAndWriter)
     }
     EXPECT_EQ(0, iBad.load());
     rMgr.ResetTable();
+}
+
+// A lock that counts how often it is taken.
+class CCountingLock : public CZelLock
+{
+public:
+    void Lock() override
+    {
+        m_stMutex.Lock();
+        ++m_lLocks;
+    }
+    void Unlock() override { m_stMutex.Unlock(); }
+    long Locks() const { return m_lLocks.load(); }
+
+private:
+    CZelMutex m_stMutex;
+    std::atomic<long> m_lLocks{0};
+};
+
+// After a thread's first lookup, lookups take neither the lock nor a count
+// on the table until the table is swapped; then the lock once more.
+TEST(FrequencyConcurrency, LookupsTakeNoLockAndNoCountUntilASwap)
+{
+    CCountingLock stLock;
+    CZelFrequencyMgr stMgr(&stLock);
+    stMgr.SetGlonassFrequencies(AllChannels(2));
+    const SZelSatID stSat(ZELSATSYSTEM_GLONASS, 9);
+    ASSERT_EQ(c_dC / G1(2), stMgr.GetWavelength(stSat, ZELFREQUENCY_GROUP_1));
+
+    boost::shared_ptr<const CZelFrequencyTable> pTable;
+    ASSERT_TRUE(stMgr.GetFrequencyTable(pTable));
+    const long lCount = pTable.use_count();
+    const long lLocks = stLock.Locks();
+    double dSum = 0.0;
+    int8_t cChannel = 0;
+    for (int i = 0; i < 1000; ++i)
+    {
+        dSum += stMgr.GetWavelength(stSat, ZELFREQUENCY_GROUP_2);
+        dSum += stMgr.GetFrequency(stSat, 1);
+        dSum += stMgr.GetFrequencyRatio(stSat, 1u, 2u);
+        dSum += stMgr.GetInverseWavelengthProduct(stSat, 1u, 2u);
+        EXPECT_TRUE(stMgr.GetGlonassChannel(stSat, cChannel));
+    }
+    EXPECT_GT(dSum, 0.0);
+    EXPECT_EQ(2, cChannel);
+    EXPECT_EQ(lLocks, stLock.Locks());
+    EXPECT_EQ(lCount, pTable.use_count());
+
+    // A swap is seen by the next lookup, at the price of one lock.
+    stMgr.SetGlonassFrequencies(AllChannels(-3));
+    const long lLocksAfterSwap = stLock.Locks();
+    EXPECT_EQ(c_dC / G1(-3), stMgr.GetWavelength(stSat, ZELFREQUENCY_GROUP_1));
+    EXPECT_EQ(lLocksAfterSwap + 1, stLock.Locks());
+    EXPECT_EQ(c_dC / G2(-3), stMgr.GetWavelength(stSat, ZELFREQUENCY_GROUP_2));
+    EXPECT_EQ(lLocksAfterSwap + 1, stLock.Locks());
+    // The snapshot taken before keeps the old table.
+    EXPECT_EQ(2, pTable->stGlonassFrequencies.acChannels[8]);
+    EXPECT_EQ(c_dC / G1(2), pTable->adWavelengths[1][8]);
+
+    // A reset is a swap as well.
+    stMgr.ResetTable();
+    EXPECT_EQ(0.0, stMgr.GetWavelength(stSat, ZELFREQUENCY_GROUP_1));
+    EXPECT_FALSE(stMgr.GetGlonassChannel(stSat, cChannel));
+}
+
+// Lock step: the writer swaps, then waits until every reader has looked up
+// once; each of those lookups must see the new table, although the readers
+// kept the old one between the swaps.
+TEST(FrequencyConcurrency, EverySwapIsSeenByTheNextLookupOfEveryThread)
+{
+    CZelMutex stLock;
+    CZelFrequencyMgr stMgr(&stLock);
+    const int iReaders = 2;
+    const int iRounds = 300;
+    std::atomic<int> iPublished(-1);
+    std::atomic<int> aiSeen[iReaders];
+    std::atomic<int> iStale(0);
+    for (std::atomic<int>& rSeen : aiSeen)
+    {
+        rSeen.store(-1);
+    }
+    std::vector<std::thread> vecReaders;
+    for (int iReader = 0; iReader < iReaders; ++iReader)
+    {
+        vecReaders.emplace_back(
+            [&, iReader]
+            {
+                const SZelSatID stSat(ZELSATSYSTEM_GLONASS, static_cast<uint8_t>(3 + iReader));
+                for (int iRound = 0; iRound < iRounds; ++iRound)
+                {
+                    while (iPublished.load() < iRound)
+                    {
+                        // Lookups on the table of the round before.
+                        (void)stMgr.GetWavelength(stSat, ZELFREQUENCY_GROUP_1);
+                        std::this_thread::yield();
+                    }
+                    const int iChannel = ChannelOf(iRound);
+                    int8_t cChannel = 0;
+                    if (stMgr.GetWavelength(stSat, ZELFREQUENCY_GROUP_1) != c_dC / G1(iChannel) ||
+                        stMgr.GetFrequency(stSat, 2) != c_dC / (c_dC / G2(iChannel)) ||
+                        !stMgr.GetGlonassChannel(stSat, cChannel) || cChannel != iChannel)
+                    {
+                        ++iStale;
+                    }
+                    aiSeen[iReader].store(iRound);
+                }
+            });
+    }
+    for (int iRound = 0; iRound < iRounds; ++iRound)
+    {
+        stMgr.SetGlonassFrequencies(AllChannels(ChannelOf(iRound)));
+        iPublished.store(iRound);
+        for (std::atomic<int>& rSeen : aiSeen)
+        {
+            while (rSeen.load() < iRound)
+            {
+                std::this_thread::yield();
+            }
+        }
+    }
+    for (std::thread& rThread : vecReaders)
+    {
+        rThread.join();
+    }
+    EXPECT_EQ(0, iStale.load());
+}
+
+// A thread that looks up on more managers than it keeps tables for, and on
+// managers that come and go at the same address, always gets the values of
+// the manager it asks.
+TEST(FrequencyConcurrency, ManyManagersAndManagersAtAReusedAddress)
+{
+    const SZelSatID stSat(ZELSATSYSTEM_GLONASS, 12);
+    CZelMutex stLock;
+    std::vector<std::unique_ptr<CZelFrequencyMgr>> vecMgrs;
+    for (int iMgr = 0; iMgr < 9; ++iMgr)
+    {
+        vecMgrs.emplace_back(new CZelFrequencyMgr(&stLock));
+        vecMgrs.back()->SetGlonassFrequencies(AllChannels(iMgr - 7));
+    }
+    for (int iPass = 0; iPass < 3; ++iPass)
+    {
+        for (int iMgr = 0; iMgr < 9; ++iMgr)
+        {
+            EXPECT_EQ(c_dC / G1(iMgr - 7), vecMgrs[iMgr]->GetWavelength(stSat, ZELFREQUENCY_GROUP_1));
+        }
+    }
+
+    alignas(CZelFrequencyMgr) unsigned char aucStorage[sizeof(CZelFrequencyMgr)];
+    for (int iLife = 0; iLife < 30; ++iLife)
+    {
+        CZelFrequencyMgr* pMgr = new (aucStorage) CZelFrequencyMgr(&stLock);
+        if (iLife % 3 != 0)
+        {
+            pMgr->SetGlonassFrequencies(AllChannels(iLife % 21 - 7));
+            EXPECT_EQ(c_dC / G1(iLife % 21 - 7), pMgr->GetWavelength(stSat, ZELFREQUENCY_GROUP_1));
+        }
+        else
+        {
+            // A new manager knows no channel, whatever the one before knew.
+            EXPECT_EQ(0.0, pMgr->GetWavelength(stSat, ZELFREQUENCY_GROUP_1));
+        }
+        pMgr->~CZelFrequencyMgr();
+    }
+}
+
+// The tables that a thread kept go with the thread.
+TEST(FrequencyConcurrency, AThreadLetsGoOfItsTablesWhenItEnds)
+{
+    CZelMutex stLock;
+    CZelFrequencyMgr stMgr(&stLock);
+    stMgr.SetGlonassFrequencies(AllChannels(5));
+    boost::weak_ptr<const CZelFrequencyTable> pWeak;
+    {
+        boost::shared_ptr<const CZelFrequencyTable> pTable;
+        ASSERT_TRUE(stMgr.GetFrequencyTable(pTable));
+        pWeak = pTable;
+    }
+    double dSeen = 0.0;
+    std::thread stReader([&] { dSeen = stMgr.GetWavelength(SZelSatID(ZELSATSYSTEM_GLONASS, 1), 1); });
+    stReader.join();
+    EXPECT_EQ(c_dC / G1(5), dSeen);
+    stMgr.SetGlonassFrequencies(AllChannels(6));
+    EXPECT_TRUE(pWeak.expired());
+}
+
+// Looks up in its destructor, which runs at the end of its thread after the
+// thread's own tables are gone.
+struct SLateReader
+{
+    CZelFrequencyMgr* pMgr = nullptr;
+    std::atomic<double>* pdSeen = nullptr;
+    ~SLateReader()
+    {
+        if (pMgr != nullptr)
+        {
+            pdSeen->store(pMgr->GetWavelength(SZelSatID(ZELSATSYSTEM_GLONASS, 2), 1));
+        }
+    }
+};
+
+TEST(FrequencyConcurrency, LookupsFromDestructorsAtTheEndOfAThread)
+{
+    CZelMutex stLock;
+    CZelFrequencyMgr stMgr(&stLock);
+    stMgr.SetGlonassFrequencies(AllChannels(-1));
+    std::atomic<double> dSeen(-1.0);
+    std::atomic<double> dFirst(-1.0);
+    std::thread stReader(
+        [&]
+        {
+            // Built before the thread's first lookup: destroyed after the
+            // thread's tables.
+            thread_local SLateReader t_stLate;
+            t_stLate.pMgr = &stMgr;
+            t_stLate.pdSeen = &dSeen;
+            dFirst.store(stMgr.GetWavelength(SZelSatID(ZELSATSYSTEM_GLONASS, 2), 1));
+            stMgr.SetGlonassFrequencies(AllChannels(4));
+        });
+    stReader.join();
+    EXPECT_EQ(c_dC / G1(-1), dFirst.load());
+    EXPECT_EQ(c_dC / G1(4), dSeen.load());
 }
 
 } // namespace

@@ -7,9 +7,12 @@
 #include <boost/make_shared.hpp>
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
+#include <utility>
 
 #include "ZelStaticOrder.h"
 
@@ -174,13 +177,166 @@ bool IsWideLaneKind(int eCombination)
 // Construction and the table
 // ---------------------------------------------------------------------------
 
+namespace
+{
+
+// Every table that a manager installs takes the next number; 0 marks an
+// empty entry of a thread's cache.
+std::atomic<uint64_t> g_ulTableGenerations(0);
+
+uint64_t NextTableGeneration()
+{
+    return g_ulTableGenerations.fetch_add(1, std::memory_order_relaxed) + 1;
+}
+
+// A thread's cache: the table it used last, one entry per manager, for up to
+// this many managers; a further manager takes the entries in turn.
+constexpr unsigned int c_uiTHREAD_TABLES = 4;
+
+struct SThreadTableEntry
+{
+    uintptr_t uiMgr; // the manager's address, compared only
+    uint64_t ulGeneration;
+    const CZelFrequencyTable* pTable;
+};
+
+// Trivially destructible and zero-initialised, so that a lookup reaches it
+// without an initialisation guard. The tables are owned by t_stTableOwner.
+struct SThreadTables
+{
+    SThreadTableEntry astEntries[c_uiTHREAD_TABLES];
+    unsigned int uiNext;
+    // Lookups of this thread under way: a hook called from a check may look
+    // up again, and must not let go of a table that the outer lookup reads.
+    unsigned int uiInUse;
+    // The thread is ending and its tables are gone: lookups from later
+    // destructors take the table under the lock.
+    bool bClosed;
+};
+
+thread_local SThreadTables t_stTables;
+
+// Built at the thread's first refresh; at the thread's end it lets the tables go.
+struct SThreadTableOwner
+{
+    boost::shared_ptr<const CZelFrequencyTable> apTables[c_uiTHREAD_TABLES];
+
+    SThreadTableOwner() = default;
+    SThreadTableOwner(const SThreadTableOwner&) = delete;
+    SThreadTableOwner& operator=(const SThreadTableOwner&) = delete;
+    ~SThreadTableOwner()
+    {
+        for (SThreadTableEntry& rEntry : t_stTables.astEntries)
+        {
+            rEntry = SThreadTableEntry();
+        }
+        t_stTables.bClosed = true;
+    }
+};
+
+thread_local SThreadTableOwner t_stTableOwner;
+
+} // namespace
+
+// The current table of a manager for the length of one lookup. While the
+// thread's own copy is current it costs one atomic load and no write that
+// another thread sees; after a swap the thread takes the new table once,
+// under the lock.
+class CZelThreadTable
+{
+public:
+    explicit CZelThreadTable(const CZelFrequencyMgr& rMgr) : m_pHeld(), m_pTable(Find(rMgr)), m_bInUse(true)
+    {
+        ++t_stTables.uiInUse;
+    }
+    // Only GLONASS lookups read the table; the others get none.
+    CZelThreadTable(const CZelFrequencyMgr& rMgr, const SZelSatID& rSatID)
+        : m_pHeld(), m_pTable(rSatID.eSatSystem == ZELSATSYSTEM_GLONASS ? Find(rMgr) : nullptr),
+          m_bInUse(m_pTable != nullptr)
+    {
+        if (m_bInUse)
+        {
+            ++t_stTables.uiInUse;
+        }
+    }
+    ~CZelThreadTable()
+    {
+        if (m_bInUse)
+        {
+            --t_stTables.uiInUse;
+        }
+    }
+    CZelThreadTable(const CZelThreadTable&) = delete;
+    CZelThreadTable& operator=(const CZelThreadTable&) = delete;
+
+    const CZelFrequencyTable* get() const { return m_pTable; }
+
+private:
+    const CZelFrequencyTable* Find(const CZelFrequencyMgr& rMgr);
+
+    boost::shared_ptr<const CZelFrequencyTable> m_pHeld; // a table outside the cache
+    const CZelFrequencyTable* m_pTable;
+    bool m_bInUse;
+};
+
+const CZelFrequencyTable* CZelThreadTable::Find(const CZelFrequencyMgr& rMgr)
+{
+    // Numbers are never reused, so an entry with the current number holds
+    // this manager's current table.
+    const uint64_t ulGeneration = rMgr.m_ulTableGeneration.load(std::memory_order_acquire);
+    SThreadTables& rTables = t_stTables;
+    for (const SThreadTableEntry& rEntry : rTables.astEntries)
+    {
+        if (rEntry.ulGeneration == ulGeneration)
+        {
+            return rEntry.pTable;
+        }
+    }
+    uint64_t ulTaken = 0;
+    {
+        CZelGuard stGuard(*rMgr.m_pMutexFreqTable);
+        m_pHeld = rMgr.m_pFreqTable;
+        ulTaken = rMgr.m_ulTableGeneration.load(std::memory_order_relaxed);
+    }
+    if (rTables.uiInUse != 0 || rTables.bClosed)
+    {
+        // An outer lookup may still read an entry, or the entries are gone:
+        // this lookup keeps its own reference.
+        return m_pHeld.get();
+    }
+    const uintptr_t uiMgr = reinterpret_cast<uintptr_t>(&rMgr);
+    unsigned int uiEntry = c_uiTHREAD_TABLES;
+    for (unsigned int ui = 0; ui < c_uiTHREAD_TABLES; ++ui)
+    {
+        if (rTables.astEntries[ui].uiMgr == uiMgr)
+        {
+            uiEntry = ui;
+            break;
+        }
+    }
+    if (uiEntry == c_uiTHREAD_TABLES)
+    {
+        uiEntry = rTables.uiNext;
+        rTables.uiNext = (rTables.uiNext + 1) % c_uiTHREAD_TABLES;
+    }
+    const CZelFrequencyTable* pTable = m_pHeld.get();
+    // The entry's old table may go here: no lookup of this thread reads it.
+    t_stTableOwner.apTables[uiEntry] = std::move(m_pHeld);
+    rTables.astEntries[uiEntry].uiMgr = uiMgr;
+    rTables.astEntries[uiEntry].ulGeneration = ulTaken;
+    rTables.astEntries[uiEntry].pTable = pTable;
+    return pTable;
+}
+
 CZelFrequencyMgr::CZelFrequencyMgr()
-    : m_pFreqTable(boost::make_shared<CZelFrequencyTable>()), m_pMutexFreqTable(new CZelMutex())
+    : m_pFreqTable(boost::make_shared<CZelFrequencyTable>()), m_pMutexFreqTable(new CZelMutex()),
+      m_ulTableGeneration(NextTableGeneration())
 {
 }
 
 CZelFrequencyMgr::CZelFrequencyMgr(CZelLock* pMutexFreqTable)
-    : m_pFreqTable(boost::make_shared<CZelFrequencyTable>()), m_pMutexFreqTable(pMutexFreqTable)
+    : m_pFreqTable(boost::make_shared<CZelFrequencyTable>()), m_pMutexFreqTable(pMutexFreqTable),
+      m_ulTableGeneration(NextTableGeneration())
 {
     ZEL_ASSERT(m_pMutexFreqTable != NULL);
     if (m_pMutexFreqTable == nullptr)
@@ -201,14 +357,11 @@ bool CZelFrequencyMgr::GetFrequencyTable(boost::shared_ptr<const CZelFrequencyTa
     return rpTable != nullptr;
 }
 
-boost::shared_ptr<const CZelFrequencyTable> CZelFrequencyMgr::TableFor(const SZelSatID& rSatID) const
+void CZelFrequencyMgr::InstallTable(boost::shared_ptr<CZelFrequencyTable>& rpNew)
 {
-    boost::shared_ptr<const CZelFrequencyTable> pTable;
-    if (rSatID.eSatSystem == ZELSATSYSTEM_GLONASS)
-    {
-        GetFrequencyTable(pTable);
-    }
-    return pTable;
+    m_pFreqTable.swap(rpNew);
+    // After the pointer: a reader that sees the number finds the table under the lock.
+    m_ulTableGeneration.store(NextTableGeneration(), std::memory_order_release);
 }
 
 bool CZelFrequencyMgr::GetLocataValue(const SZelSatID& rSatID, int iIdx, double& rdValue) const
@@ -261,7 +414,7 @@ void CZelFrequencyMgr::SetGlonassFrequencies(const ZelGlonassFrequencies& rstFre
             {
                 // The map is copied here, under the lock that guards it.
                 pNew->mapLocataWavelengths = pOld->mapLocataWavelengths;
-                m_pFreqTable.swap(pNew);
+                InstallTable(pNew);
                 return; // the old table goes with its last holder
             }
         }
@@ -292,7 +445,7 @@ void CZelFrequencyMgr::ResetTable()
     boost::shared_ptr<CZelFrequencyTable> pNew = boost::make_shared<CZelFrequencyTable>();
     {
         CZelGuard stGuard(*m_pMutexFreqTable);
-        m_pFreqTable.swap(pNew);
+        InstallTable(pNew);
     }
 }
 
@@ -309,8 +462,8 @@ bool CZelFrequencyMgr::GetGlonassChannel(const SZelSatID& rSatID, int8_t& rcChan
         ZEL_ASSERT(false);
         return false;
     }
-    const boost::shared_ptr<const CZelFrequencyTable> pTable = TableFor(rSatID);
-    rcChannel = pTable->stGlonassFrequencies.acChannels[rSatID.uiSatNumber - 1];
+    const CZelThreadTable stTable(*this, rSatID);
+    rcChannel = stTable.get()->stGlonassFrequencies.acChannels[rSatID.uiSatNumber - 1];
     return rcChannel != c_cGLONASS_CHANNEL_UNKNOWN;
 }
 
@@ -383,8 +536,8 @@ double CZelFrequencyMgr::FrequencyIn(const CZelFrequencyTable* pTable, const SZe
 
 double CZelFrequencyMgr::GetFrequency(const SZelSatID& rSatID, int iIdx) const
 {
-    const boost::shared_ptr<const CZelFrequencyTable> pTable = TableFor(rSatID);
-    return FrequencyIn(pTable.get(), rSatID, iIdx);
+    const CZelThreadTable stTable(*this, rSatID);
+    return FrequencyIn(stTable.get(), rSatID, iIdx);
 }
 
 double CZelFrequencyMgr::GetFrequency(const SZelSatID& rSatID, EZelFrequencyGroup eFreqIdx) const
@@ -427,8 +580,8 @@ double CZelFrequencyMgr::GetWavelength(const SZelSatID& rSatID, EZelFrequencyGro
         {
             return 0.0; // no such slot in the table
         }
-        const boost::shared_ptr<const CZelFrequencyTable> pTable = TableFor(rSatID);
-        return pTable->adWavelengths[eFreqIdx][rSatID.uiSatNumber - 1];
+        const CZelThreadTable stTable(*this, rSatID);
+        return stTable.get()->adWavelengths[eFreqIdx][rSatID.uiSatNumber - 1];
     }
     case ZELSATSYSTEM_LOCATA:
     {
@@ -493,9 +646,9 @@ bool CZelFrequencyMgr::GetWavelengthBool(const SZelSatID& rSatID, EZelFrequency 
 double CZelFrequencyMgr::GetFrequencyRatio(const SZelSatID& rSatID, uint32_t ebfFrq1, uint32_t ebfFrq2) const
 {
     // Both carriers from one table.
-    const boost::shared_ptr<const CZelFrequencyTable> pTable = TableFor(rSatID);
-    const double dFrequency1 = FrequencyIn(pTable.get(), rSatID, static_cast<int>(FromFrqGroupBit(ebfFrq1)));
-    const double dFrequency2 = FrequencyIn(pTable.get(), rSatID, static_cast<int>(FromFrqGroupBit(ebfFrq2)));
+    const CZelThreadTable stTable(*this, rSatID);
+    const double dFrequency1 = FrequencyIn(stTable.get(), rSatID, static_cast<int>(FromFrqGroupBit(ebfFrq1)));
+    const double dFrequency2 = FrequencyIn(stTable.get(), rSatID, static_cast<int>(FromFrqGroupBit(ebfFrq2)));
     if (!(dFrequency1 > 0.0) || !(dFrequency2 > 0.0))
     {
         return 0.0;
@@ -554,9 +707,9 @@ double CZelFrequencyMgr::GetFrequencyRatio(EZelSatSystem eSys, uint32_t ebfFrq1,
 
 double CZelFrequencyMgr::GetIonoCoefficient(const SZelSatID& rSatID, uint32_t ebfFrq1, uint32_t ebfFrq2) const
 {
-    const boost::shared_ptr<const CZelFrequencyTable> pTable = TableFor(rSatID);
-    const double dFrequency1 = FrequencyIn(pTable.get(), rSatID, static_cast<int>(FromFrqGroupBit(ebfFrq1)));
-    const double dFrequency2 = FrequencyIn(pTable.get(), rSatID, static_cast<int>(FromFrqGroupBit(ebfFrq2)));
+    const CZelThreadTable stTable(*this, rSatID);
+    const double dFrequency1 = FrequencyIn(stTable.get(), rSatID, static_cast<int>(FromFrqGroupBit(ebfFrq1)));
+    const double dFrequency2 = FrequencyIn(stTable.get(), rSatID, static_cast<int>(FromFrqGroupBit(ebfFrq2)));
     if (ebfFrq1 == ebfFrq2 || (dFrequency1 == dFrequency2 && dFrequency1 > 0.0))
     {
         // A message check: the negated literal is the text a handler sees.
@@ -702,9 +855,11 @@ bool CZelFrequencyMgr::GetCombinationFactors(const SZelSatID& rSatID, int eCombi
         return false;
     }
     // Both carriers from one table.
-    const boost::shared_ptr<const CZelFrequencyTable> pTable = TableFor(rSatID);
-    const double dF1 = FrequencyIn(pTable.get(), rSatID, static_cast<int>(getFrequencyGroupIndex(aeFrqs[0])));
-    const double dF2 = FrequencyIn(pTable.get(), rSatID, static_cast<int>(getFrequencyGroupIndex(aeFrqs[1])));
+    const CZelThreadTable stTable(*this, rSatID);
+    const double dF1 =
+        FrequencyIn(stTable.get(), rSatID, static_cast<int>(getFrequencyGroupIndex(aeFrqs[0])));
+    const double dF2 =
+        FrequencyIn(stTable.get(), rSatID, static_cast<int>(getFrequencyGroupIndex(aeFrqs[1])));
     const bool bIonoFree = IsIonoFreeKind(eCombination);
     if (!bIonoFree && !IsWideLaneKind(eCombination))
     {
@@ -817,9 +972,9 @@ bool CZelFrequencyMgr::WavelengthPair(const SZelSatID& rSatID, int iIdx1, int iI
         {
             return true; // no such slot in the table
         }
-        const boost::shared_ptr<const CZelFrequencyTable> pTable = TableFor(rSatID);
-        rdWavelength1 = pTable->adWavelengths[iIdx1][rSatID.uiSatNumber - 1];
-        rdWavelength2 = pTable->adWavelengths[iIdx2][rSatID.uiSatNumber - 1];
+        const CZelThreadTable stTable(*this, rSatID);
+        rdWavelength1 = stTable.get()->adWavelengths[iIdx1][rSatID.uiSatNumber - 1];
+        rdWavelength2 = stTable.get()->adWavelengths[iIdx2][rSatID.uiSatNumber - 1];
         return true;
     }
     case ZELSATSYSTEM_LOCATA:
@@ -1064,18 +1219,18 @@ double GetIonoFreeCoef2InMetres(const SZelSatID& rSatID)
 static double GlonassRatioTo(const SZelSatID& rSatID, int iGrp, EZelFrequencyGroup eRefGroup)
 {
     ZEL_ASSERT(rSatID.isValid());
-    boost::shared_ptr<const CZelFrequencyTable> pTable;
-    if (!rSatID.isValid() || !GetFrequencyMgr().GetFrequencyTable(pTable))
+    if (!rSatID.isValid())
     {
         return 0.0; // no such slot in the table
     }
-    const double dWL = GlonassWavelength(*pTable, rSatID, eRefGroup);
+    const CZelThreadTable stTable(GetFrequencyMgr());
+    const double dWL = GlonassWavelength(*stTable.get(), rSatID, eRefGroup);
     ZEL_ASSERT(dWL > 0.0);
     if (!(dWL > 0.0))
     {
         return 0.0; // the channel is not known (yet)
     }
-    return GlonassWavelength(*pTable, rSatID, iGrp) / dWL;
+    return GlonassWavelength(*stTable.get(), rSatID, iGrp) / dWL;
 }
 
 double GetL2FrequencyRatio(const SZelSatID& rSatID, uint32_t ebfFrq)

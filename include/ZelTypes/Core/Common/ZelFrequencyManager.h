@@ -7,6 +7,9 @@
 /// GLONASS depends on the channel of each slot and Locata on values set by
 /// the host, so the manager keeps those in a table that is replaced whole
 /// (copy on write): a reader holding the table goes on without a lock.
+/// Each thread keeps the table it last used and takes it again, under the
+/// lock, only when a swap has been made since: a lookup takes no lock and
+/// writes to no memory that another thread reads.
 ///
 /// A frequency is named by its group index (0 to 6), by its group bit
 /// (ToFrqGroupBit), or by its frequency slot (EZelFrequency). GetFrequency,
@@ -26,6 +29,7 @@
 
 #include <boost/shared_ptr.hpp>
 
+#include <atomic>
 #include <cstdint>
 #include <map>
 #include <utility>
@@ -67,6 +71,9 @@ public:
     /// Constructs the default state (for a record: holding no data).
     CZelFrequencyTable() : stGlonassFrequencies(), mapLocataWavelengths(), adWavelengths() {}
 };
+
+/// A lookup's view of a manager's current table, through its thread's copy; internal.
+class CZelThreadTable;
 
 /// Carrier frequencies (Hz), wavelengths (m) and combination coefficients by satellite and frequency group;
 /// GetFrequencyMgr() gives the global one.
@@ -184,13 +191,22 @@ public:
     void ResetTable();
 
 protected:
-    boost::shared_ptr<CZelFrequencyTable> m_pFreqTable; ///< never null after construction
-    CZelLock* m_pMutexFreqTable;                        ///< guards the pointer and the Locata map
+    /// Never null after construction; replaced only through InstallTable.
+    boost::shared_ptr<CZelFrequencyTable> m_pFreqTable;
+    CZelLock* m_pMutexFreqTable; ///< guards the pointer and the Locata map
+
+    /// Makes rpNew the current table and hands back the old one in it; called
+    /// under the lock. Lookups of every thread see the new table from then on.
+    void InstallTable(boost::shared_ptr<CZelFrequencyTable>& rpNew);
 
 private:
-    /// The table for a lookup on this satellite: the current one for GLONASS,
-    /// null for the others, which need none.
-    boost::shared_ptr<const CZelFrequencyTable> TableFor(const SZelSatID& rSatID) const;
+    friend class CZelThreadTable;
+
+    /// Number of the current table, set with the pointer under the lock and
+    /// read without it. Numbers are drawn from one process-wide count, so a
+    /// number names one table of one manager for good.
+    std::atomic<uint64_t> m_ulTableGeneration;
+
     double FrequencyIn(const CZelFrequencyTable* pTable, const SZelSatID& rSatID, int iIdx) const;
     /// Both wavelengths of a product from one table; false for an unknown system.
     bool WavelengthPair(const SZelSatID& rSatID, int iIdx1, int iIdx2, double& rdWavelength1,
