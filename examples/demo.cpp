@@ -272,6 +272,10 @@ int main(int argc, char** argv)
     const bool bObsOk = ShowObservationRoad();
     ShowEphemerisRoad();
 
+    // The satellite texts above leave the fill character at '0' on the
+    // stream, as every record writer leaves its settings; the roads below
+    // lay out columns with blanks.
+    std::cout << std::setfill(' ') << std::right;
     std::cout << "\n== SSR road\n";
     DemoSsr(std::cout);
 
