@@ -21,7 +21,6 @@
 #include <boost/container/vector.hpp>
 #include <boost/unordered_map.hpp>
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <istream>
@@ -419,17 +418,8 @@ private:
         }
         else
         {
-            std::vector<const typename TMap::value_type*> vecEntries;
-            vecEntries.reserve(rMap.size());
-            for (const auto& rEntry : rMap)
-            {
-                vecEntries.push_back(&rEntry);
-            }
-            std::sort(vecEntries.begin(), vecEntries.end(),
-                      [](const typename TMap::value_type* pA, const typename TMap::value_type* pB)
-                      { return pA->first < pB->first; });
             io.Tag(szCountTag).Value(rMap.size());
-            for (const auto* pEntry : vecEntries)
+            for (const auto* pEntry : ZelIo::SortedEntries(rMap))
             {
                 io.Tag(", ").Value(pEntry->first).Tag(", ").Value(pEntry->second);
             }
