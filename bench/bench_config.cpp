@@ -7,6 +7,8 @@
 
 #include <ZelTypes/Ext/Gnss/ZelExtCfgTypes.h>
 
+#include "ZelBenchMemcpy.h"
+
 #include <benchmark/benchmark.h>
 
 #include <chrono>
@@ -19,56 +21,18 @@ namespace
 {
 
 using namespace ZELN;
-
-// Nanoseconds of one memcpy of ulBytes, the best of several rounds.
-double CfgMemcpyNanos(size_t ulBytes)
-{
-    std::vector<unsigned char> vecFrom(ulBytes, 0x5A);
-    std::vector<unsigned char> vecTo(ulBytes);
-    constexpr int c_iROUNDS = 20;
-    constexpr int c_iCOPIES = 20000;
-    double dBest = 1e30;
-    for (int iRound = 0; iRound < c_iROUNDS; ++iRound)
-    {
-        const auto tStart = std::chrono::steady_clock::now();
-        for (int iCopy = 0; iCopy < c_iCOPIES; ++iCopy)
-        {
-            std::memcpy(vecTo.data(), vecFrom.data(), ulBytes);
-            benchmark::ClobberMemory();
-        }
-        const auto tEnd = std::chrono::steady_clock::now();
-        const double dNanos = std::chrono::duration<double, std::nano>(tEnd - tStart).count() / c_iCOPIES;
-        dBest = dNanos < dBest ? dNanos : dBest;
-    }
-    return dBest;
-}
-
-// Runs the loop, sets bytes per second and the ratio to memcpy.
-template <class F> void RunCfgBinary(benchmark::State& rState, size_t ulBytes, F fnCall)
-{
-    const auto tStart = std::chrono::steady_clock::now();
-    for (auto _ : rState)
-    {
-        benchmark::DoNotOptimize(fnCall());
-        benchmark::ClobberMemory();
-    }
-    const auto tEnd = std::chrono::steady_clock::now();
-    const double dNanos = std::chrono::duration<double, std::nano>(tEnd - tStart).count() /
-                          static_cast<double>(rState.iterations());
-    rState.SetBytesProcessed(static_cast<int64_t>(rState.iterations()) * static_cast<int64_t>(ulBytes));
-    rState.counters["x_memcpy"] = dNanos / CfgMemcpyNanos(ulBytes);
-}
+using ZelBench::RunBinary;
 
 void BM_Config_ProcCfgSave(benchmark::State& rState)
 {
     const SZelProcCfg stCfg = ZelSample::ProcCfg();
     std::vector<unsigned char> vecBuffer(static_cast<size_t>(stCfg.getSize()));
-    RunCfgBinary(rState, vecBuffer.size(),
-                 [&]
-                 {
-                     uint64_t ulUsed = 0;
-                     return stCfg.saveData(vecBuffer.data(), vecBuffer.size(), &ulUsed);
-                 });
+    RunBinary(rState, vecBuffer.size(),
+              [&]
+              {
+                  uint64_t ulUsed = 0;
+                  return stCfg.saveData(vecBuffer.data(), vecBuffer.size(), &ulUsed);
+              });
 }
 BENCHMARK(BM_Config_ProcCfgSave);
 
@@ -79,8 +43,8 @@ void BM_Config_ProcCfgLoad(benchmark::State& rState)
     uint64_t ulUsed = 0;
     stCfg.saveData(vecBuffer.data(), vecBuffer.size(), &ulUsed);
     SZelProcCfg stTarget;
-    RunCfgBinary(rState, vecBuffer.size(),
-                 [&] { return stTarget.loadData(vecBuffer.data(), vecBuffer.size(), &ulUsed); });
+    RunBinary(rState, vecBuffer.size(),
+              [&] { return stTarget.loadData(vecBuffer.data(), vecBuffer.size(), &ulUsed); });
 }
 BENCHMARK(BM_Config_ProcCfgLoad);
 

@@ -7,6 +7,8 @@
 
 #include <ZelTypes/Core/Common/ZelObsEpoch.h>
 
+#include "ZelBenchMemcpy.h"
+
 #include <benchmark/benchmark.h>
 
 #include <chrono>
@@ -20,6 +22,7 @@ namespace
 {
 
 using namespace ZELN;
+using ZelBench::RunBinary;
 
 constexpr int c_iNB_SATS = 40;
 constexpr int c_iNB_SIGNALS = 4;
@@ -34,45 +37,6 @@ SZelObservationEpoch MakeEpoch()
 SZelRtmeOutEpochData MakeOutput()
 {
     return ZelSample::RtmeOut(c_iNB_CORRECTIONS, c_iNB_RANGE_RATES);
-}
-
-// Nanoseconds of one memcpy of ulBytes, the best of several rounds.
-double MemcpyNanos(size_t ulBytes)
-{
-    std::vector<unsigned char> vecFrom(ulBytes, 0x5A);
-    std::vector<unsigned char> vecTo(ulBytes);
-    constexpr int c_iROUNDS = 20;
-    constexpr int c_iCOPIES = 2000;
-    double dBest = 1e30;
-    for (int iRound = 0; iRound < c_iROUNDS; ++iRound)
-    {
-        const auto tStart = std::chrono::steady_clock::now();
-        for (int iCopy = 0; iCopy < c_iCOPIES; ++iCopy)
-        {
-            std::memcpy(vecTo.data(), vecFrom.data(), ulBytes);
-            benchmark::ClobberMemory();
-        }
-        const auto tEnd = std::chrono::steady_clock::now();
-        const double dNanos = std::chrono::duration<double, std::nano>(tEnd - tStart).count() / c_iCOPIES;
-        dBest = dNanos < dBest ? dNanos : dBest;
-    }
-    return dBest;
-}
-
-// Runs the loop, sets bytes per second and the ratio to memcpy.
-template <class F> void RunBinary(benchmark::State& rState, size_t ulBytes, F fnCall)
-{
-    const auto tStart = std::chrono::steady_clock::now();
-    for (auto _ : rState)
-    {
-        benchmark::DoNotOptimize(fnCall());
-        benchmark::ClobberMemory();
-    }
-    const auto tEnd = std::chrono::steady_clock::now();
-    const double dNanos = std::chrono::duration<double, std::nano>(tEnd - tStart).count() /
-                          static_cast<double>(rState.iterations());
-    rState.SetBytesProcessed(static_cast<int64_t>(rState.iterations()) * static_cast<int64_t>(ulBytes));
-    rState.counters["x_memcpy"] = dNanos / MemcpyNanos(ulBytes);
 }
 
 void BM_Obs_EpochSave(benchmark::State& rState)

@@ -14,6 +14,8 @@
 
 #include <ZelTypes/Core/Common/ZelSSRTypes.h>
 
+#include "ZelBenchMemcpy.h"
+
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -25,6 +27,7 @@ namespace
 {
 
 using namespace ZELN;
+using ZelBench::RunBinary;
 
 constexpr int c_iNB_IMAGE_RECORDS = 40;
 
@@ -101,45 +104,6 @@ void BM_Ssr_MergeCopyOnly(benchmark::State& rState)
     }
 }
 BENCHMARK(BM_Ssr_MergeCopyOnly)->Arg(10)->Arg(100)->Arg(1000)->Arg(10000);
-
-// Nanoseconds of one memcpy of ulBytes, the best of several rounds.
-double MemcpyNanos(size_t ulBytes)
-{
-    std::vector<unsigned char> vecFrom(ulBytes, 0x5A);
-    std::vector<unsigned char> vecTo(ulBytes);
-    constexpr int c_iROUNDS = 20;
-    constexpr int c_iCOPIES = 2000;
-    double dBest = 1e30;
-    for (int iRound = 0; iRound < c_iROUNDS; ++iRound)
-    {
-        const auto tStart = std::chrono::steady_clock::now();
-        for (int iCopy = 0; iCopy < c_iCOPIES; ++iCopy)
-        {
-            std::memcpy(vecTo.data(), vecFrom.data(), ulBytes);
-            benchmark::ClobberMemory();
-        }
-        const auto tEnd = std::chrono::steady_clock::now();
-        const double dNanos = std::chrono::duration<double, std::nano>(tEnd - tStart).count() / c_iCOPIES;
-        dBest = dNanos < dBest ? dNanos : dBest;
-    }
-    return dBest;
-}
-
-// Runs the loop, sets bytes per second and the ratio to memcpy.
-template <class F> void RunBinary(benchmark::State& rState, size_t ulBytes, F fnCall)
-{
-    const auto tStart = std::chrono::steady_clock::now();
-    for (auto _ : rState)
-    {
-        benchmark::DoNotOptimize(fnCall());
-        benchmark::ClobberMemory();
-    }
-    const auto tEnd = std::chrono::steady_clock::now();
-    const double dNanos = std::chrono::duration<double, std::nano>(tEnd - tStart).count() /
-                          static_cast<double>(rState.iterations());
-    rState.SetBytesProcessed(static_cast<int64_t>(rState.iterations()) * static_cast<int64_t>(ulBytes));
-    rState.counters["x_memcpy"] = dNanos / MemcpyNanos(ulBytes);
-}
 
 // A message of the sample's class with 40 records made from its first one,
 // each on its own key.
